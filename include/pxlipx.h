@@ -1,0 +1,12 @@
+/* pxlipx: image-processing primitives with a flat C interface.
+ *
+ * An image is three values passed on each call: a pointer to the first sample of the region, a row
+ * step in bytes and a size. Every function checks its arguments in a fixed order and returns the
+ * first failure with nothing written. */
+#ifndef PXLIPX_H
+#define PXLIPX_H
+
+#include "pxlipx/types.h"
+#include "pxlipx/frame.h"
+
+#endif

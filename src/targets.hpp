@@ -1,0 +1,4 @@
+// Every family's declarations, for the generated entry table.
+#pragma once
+
+#include "frame/frame.hpp"
