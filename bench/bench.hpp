@@ -1,0 +1,29 @@
+// Benchmarks: each op is timed as ours, the peer's (OpenCV on one thread) and, for memory-bound
+// ops, a memcpy that reads and writes as many bytes in total; the report prints the ratios.
+#pragma once
+
+#include "pxlipx.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
+#include <functional>
+#include <string>
+
+#ifdef PXL_BENCH_OPENCV
+#include <opencv2/core.hpp>
+#endif
+
+namespace pxlbench {
+
+// Registers one timing of an op; `who` is "pxl" or "peer". Ops are named "<what>/<size>".
+void add(const std::string& op, const char* who, std::function<void(benchmark::State&)> body);
+// Registers the memcpy baseline of an op that reads `readBytes` and writes `writeBytes` in all.
+void addMemcpy(const std::string& op, std::size_t readBytes, std::size_t writeBytes);
+
+// Each family's benchmarks register themselves through one of these at start-up.
+struct Registrar {
+    explicit Registrar(void (*fn)()) { fn(); }
+};
+
+}  // namespace pxlbench

@@ -1,0 +1,86 @@
+#include "bench.hpp"
+
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace pxlbench {
+
+namespace {
+struct Buffer {
+    explicit Buffer(std::size_t n) : p(static_cast<char*>(std::aligned_alloc(64, (n + 63) / 64 * 64))) { std::memset(p, 1, n); }
+    ~Buffer() { std::free(p); }
+    char* p;
+};
+}  // namespace
+
+void add(const std::string& op, const char* who, std::function<void(benchmark::State&)> body)
+{
+    benchmark::RegisterBenchmark((op + "/" + who).c_str(), [body](benchmark::State& s) { body(s); })
+        ->Unit(benchmark::kMicrosecond)->UseRealTime();
+}
+
+void addMemcpy(const std::string& op, std::size_t readBytes, std::size_t writeBytes)
+{
+    const std::size_t n = (readBytes + writeBytes) / 2;
+    add(op, "memcpy", [n](benchmark::State& s) {
+        Buffer src(n), dst(n);
+        for (auto _ : s) {
+            std::memcpy(dst.p, src.p, n);
+            benchmark::ClobberMemory();
+        }
+    });
+}
+
+namespace {
+// Prints the usual console lines, then one table of ratios by op.
+class RatioReporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& r : runs) {
+            if (r.run_type != Run::RT_Iteration || r.error_occurred) continue;
+            const std::string name = r.run_name.function_name;
+            const auto cut = name.rfind('/');
+            if (cut == std::string::npos) continue;
+            times_[name.substr(0, cut)][name.substr(cut + 1)] = r.GetAdjustedRealTime();
+        }
+    }
+    void Finalize() override
+    {
+        ConsoleReporter::Finalize();
+        std::printf("\n%-40s %12s %12s %12s %10s %10s\n", "op (us per call)", "pxl", "opencv", "memcpy", "pxl/cv", "pxl/memcpy");
+        for (const auto& entry : times_) {
+            const std::string& op = entry.first;
+            const auto& t = entry.second;
+            auto get = [&t](const char* who) { auto i = t.find(who); return i == t.end() ? -1.0 : i->second; };
+            const double ours = get("pxl"), peer = get("peer"), mem = get("memcpy");
+            auto cell = [](double v) { char b[32]; if (v < 0) std::snprintf(b, sizeof b, "-"); else std::snprintf(b, sizeof b, "%.4g", v); return std::string(b); };
+            auto ratio = [](double a, double b) { char buf[32]; if (a < 0 || b <= 0) std::snprintf(buf, sizeof buf, "-"); else std::snprintf(buf, sizeof buf, "%.2f", a / b); return std::string(buf); };
+            std::printf("%-40s %12s %12s %12s %10s %10s\n", op.c_str(), cell(ours).c_str(), cell(peer).c_str(),
+                        cell(mem).c_str(), ratio(ours, peer).c_str(), ratio(ours, mem).c_str());
+        }
+    }
+
+private:
+    std::map<std::string, std::map<std::string, double>> times_;
+};
+}  // namespace
+
+}  // namespace pxlbench
+
+int main(int argc, char** argv)
+{
+#ifdef PXL_BENCH_OPENCV
+    cv::setNumThreads(1);  // the peer on one thread, as we are
+#endif
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    pxlbench::RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# The project's commands, each from a fresh clone:
+#   ./build.sh demo    build in Release and run `pxl demo` (images and timings into out/)
+#   ./build.sh test    build and run every test: Release with g++, AddressSanitizer and
+#                      UndefinedBehaviorSanitizer, and clang++ for this machine's processor
+#   ./build.sh bench   build in Release and run the benchmarks against OpenCV and memcpy
+# Each installs the Debian packages it needs when they are missing.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+need() {
+    local missing=() p
+    for p in "$@"; do dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "ok installed" || missing+=("$p"); done
+    if ((${#missing[@]})); then
+        local sudo=""
+        [ "$(id -u)" = 0 ] || sudo=sudo
+        echo "Installing ${missing[*]}"
+        $sudo apt-get update -qq
+        DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq "${missing[@]}" >/dev/null
+    fi
+}
+
+jobs=$(nproc 2>/dev/null || echo 2)
+base=(cmake ninja-build g++ python3 pkg-config libpng-dev)
+
+# configure DIR [cmake options...], then build it
+build() {
+    local dir=$1; shift
+    cmake -S . -B "$dir" -G Ninja "$@" >/dev/null
+    cmake --build "$dir" -j "$jobs"
+}
+
+case "${1:-}" in
+demo)
+    need "${base[@]}"
+    build build/release -DCMAKE_BUILD_TYPE=Release -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_BENCH=OFF
+    build/release/tools/pxl demo out
+    ;;
+test)
+    need "${base[@]}" clang libgtest-dev libgmock-dev libbenchmark-dev
+    # name, then the options of each configuration
+    configs=(
+        "gcc-release|-DCMAKE_BUILD_TYPE=Release -DPXL_WERROR=ON"
+        "gcc-sanitize|-DCMAKE_BUILD_TYPE=RelWithDebInfo -DPXL_SANITIZE=ON -DPXL_BUILD_BENCH=OFF"
+        "clang-native|-DCMAKE_BUILD_TYPE=Release -DPXL_WERROR=ON -DPXL_TARGET_CPU=native -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++"
+    )
+    for c in "${configs[@]}"; do
+        name=${c%%|*}
+        read -r -a opts <<<"${c#*|}"
+        echo "=== $name"
+        build "build/test-$name" "${opts[@]}"
+        (cd "build/test-$name" && ctest -j "$jobs" --output-on-failure)
+    done
+    ;;
+bench)
+    need "${base[@]}" libbenchmark-dev libopencv-dev
+    build build/release -DCMAKE_BUILD_TYPE=Release -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_BENCH=ON
+    shift
+    build/release/bench/pxl_bench "$@"
+    ;;
+*)
+    sed -n '2,7p' "$0" | sed 's/^# \{0,1\}//'
+    exit 2
+    ;;
+esac
