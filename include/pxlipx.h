@@ -8,5 +8,6 @@
 
 #include "pxlipx/types.h"
 #include "pxlipx/frame.h"
+#include "pxlipx/exchange.h"
 
 #endif

@@ -2,3 +2,4 @@
 #pragma once
 
 #include "frame/frame.hpp"
+#include "exchange/exchange.hpp"

@@ -1,0 +1,43 @@
+// Declarations of the exchange families' implementations, for the entry table.
+#pragma once
+
+#include "frame/image.hpp"
+
+namespace pxl::exch {
+
+// Set and copy (S is the unsigned type of the sample's width; T the sample type itself).
+template <class T, int Stride> PxlStatus setValue(T value, T* pDst, int dstStep, PxliSize roi);
+template <class S, class L> PxlStatus setPixels(const S* value, S* pDst, int dstStep, PxliSize roi);
+template <class T>
+PxlStatus setValueMasked(T value, T* pDst, int dstStep, PxliSize roi, const Pxl8u* pMask, int maskStep);
+template <class S, class L>
+PxlStatus setPixelsMasked(const S* value, S* pDst, int dstStep, PxliSize roi, const Pxl8u* pMask, int maskStep);
+
+template <class S, class L> PxlStatus copy(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi);
+template <class S, class L>
+PxlStatus copyMasked(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi, const Pxl8u* pMask, int maskStep);
+template <class S, int SrcStride, int DstStride, int Count>
+PxlStatus copyStrided(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi);
+template <class S, int N> PxlStatus toPlanes(const S* pSrc, int srcStep, S* const* pDst, int dstStep, PxliSize roi);
+template <class S, int N> PxlStatus fromPlanes(const S* const* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi);
+template <class S, class L> PxlStatus copyWide(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSizeL roi);
+template <class S> PxlStatus copyWideAC4(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSizeL roi);
+PxlStatus copyManaged(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roi, int flags);
+template <int N> PxlStatus dup(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roi);
+
+// Region copy with no checks, for families that have made their own.
+template <class S, class L> void copyRegion(const S* src, int srcStep, S* dst, int dstStep, PxliSize roi);
+
+// Transpose, mirror, channel swaps.
+template <class S, int N> PxlStatus transpose(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi);
+template <class S, int N> PxlStatus transposeInPlace(S* pSrcDst, int step, PxliSize roi);
+template <class S, class L>
+PxlStatus mirror(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi, PxlAxis flip);
+template <class S, class L> PxlStatus mirrorInPlace(S* pSrcDst, int step, PxliSize roi, PxlAxis flip);
+template <class S, int SrcN, int DstN, int Count, int MaxIndex, bool ArrayFirst>
+PxlStatus swapChannels(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi, const int* order);
+template <class S, int N> PxlStatus swapChannelsInPlace(S* pSrcDst, int step, PxliSize roi, const int* order);
+template <class T>
+PxlStatus swapChannelsC3C4(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, const int* order, T val);
+
+}  // namespace pxl::exch
