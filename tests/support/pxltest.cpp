@@ -7,8 +7,10 @@ GuardedBuffer::GuardedBuffer(int rowBytes, int height, int padBytes, int guardBy
 {
     // Each line: guard, region row, padding and guard. The step covers the whole line, so the
     // padding between rows is guarded too; guard rows lie above and below the region.
-    // The step is a multiple of 64, so that every row starts as aligned as the first.
-    step_ = (guardBytes + rowBytes + padBytes + guardBytes + 63) / 64 * 64;
+    // The step is a multiple of 64, so that every row starts as aligned as the first; with no
+    // guard and no padding the rows follow each other with no gap.
+    step_ = guardBytes + rowBytes + padBytes + guardBytes;
+    if (guardBytes > 0) step_ = (step_ + 63) / 64 * 64;
     const std::size_t lines = static_cast<std::size_t>(height) + 2;
     buf_.resize(lines * static_cast<std::size_t>(step_) + 64 + static_cast<std::size_t>(misalign));
     for (std::size_t i = 0; i < buf_.size(); ++i) buf_[i] = sentinel(i);

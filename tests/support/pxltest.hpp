@@ -115,9 +115,16 @@ template <class T>
 class GuardedImage : public GuardedBuffer {
 public:
     // width in pixels of `channels` samples; padBytes of step padding after each row.
-    GuardedImage(int width, int height, int channels = 1, int padBytes = 24, int misalignBytes = 0)
-        : GuardedBuffer(width * channels * static_cast<int>(sizeof(T)), height, padBytes, 64, misalignBytes),
+    GuardedImage(int width, int height, int channels = 1, int padBytes = 24, int misalignBytes = 0, int guardBytes = 64)
+        : GuardedBuffer(width * channels * static_cast<int>(sizeof(T)), height, padBytes, guardBytes, misalignBytes),
           width_(width), channels_(channels) {}
+
+    // Rows that follow each other with no gap (the step is the row's length); guard rows remain
+    // above and below.
+    static GuardedImage contiguous(int width, int height, int channels = 1)
+    {
+        return GuardedImage(width, height, channels, 0, 0, 0);
+    }
 
     T* data() { return reinterpret_cast<T*>(base()); }
     const T* data() const { return reinterpret_cast<const T*>(base()); }
