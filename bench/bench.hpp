@@ -21,6 +21,22 @@ void add(const std::string& op, const char* who, std::function<void(benchmark::S
 // Registers the memcpy baseline of an op that reads `readBytes` and writes `writeBytes` in all.
 void addMemcpy(const std::string& op, std::size_t readBytes, std::size_t writeBytes);
 
+// An image in library memory of `width` pixels of `pixelBytes` bytes, filled with a pattern.
+struct Image {
+    Image(int width, int height, int pixelBytes);
+    ~Image();
+    Image(const Image&) = delete;
+    Image& operator=(const Image&) = delete;
+    template <class T> T* as() const { return static_cast<T*>(data); }
+    void* data;
+    int32_t step;
+    int width, height, pixelBytes;
+    std::size_t bytes() const { return static_cast<std::size_t>(width) * pixelBytes * height; }
+#ifdef PXL_BENCH_OPENCV
+    cv::Mat mat(int type) const { return cv::Mat(height, width, type, data, static_cast<std::size_t>(step)); }
+#endif
+};
+
 // Each family's benchmarks register themselves through one of these at start-up.
 struct Registrar {
     explicit Registrar(void (*fn)()) { fn(); }

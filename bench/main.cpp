@@ -1,5 +1,6 @@
 #include "bench.hpp"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <map>
@@ -15,6 +16,15 @@ struct Buffer {
     char* p;
 };
 }  // namespace
+
+Image::Image(int w, int h, int pb) : width(w), height(h), pixelBytes(pb)
+{
+    data = pxliMalloc_8u_C1(w * pb, h, &step);
+    auto* p = static_cast<unsigned char*>(data);
+    for (std::size_t i = 0; i < static_cast<std::size_t>(step) * static_cast<std::size_t>(h); ++i)
+        p[i] = static_cast<unsigned char>(i * 7 + (i >> 9));
+}
+Image::~Image() { pxliFree(data); }
 
 void add(const std::string& op, const char* who, std::function<void(benchmark::State&)> body)
 {
@@ -46,7 +56,9 @@ public:
             const std::string name = r.run_name.function_name;
             const auto cut = name.rfind('/');
             if (cut == std::string::npos) continue;
-            times_[name.substr(0, cut)][name.substr(cut + 1)] = r.GetAdjustedRealTime();
+            // The fastest repetition: on a shared machine the noise only ever adds time.
+            double& t = times_[name.substr(0, cut)][name.substr(cut + 1)];
+            t = t > 0 ? std::min(t, r.GetAdjustedRealTime()) : r.GetAdjustedRealTime();
         }
     }
     void Finalize() override

@@ -13,8 +13,9 @@ namespace pxl {
 inline void krnCopyBytes(const void* src, void* dst, std::size_t bytes) { std::memcpy(dst, src, bytes); }
 
 // Fills `rows` rows of `rowBytes` bytes with a repeated pixel of `pixelBytes` bytes. Where every
-// byte of the pixel is the same it is a plain byte fill; otherwise a block of whole pixels is
-// built once on the stack and copied along each row, which keeps the stores as wide as a copy's.
+// byte of the pixel is the same it is a plain byte fill. Otherwise the first stretch of the first
+// row is built by doubling, and everything else is copied from it: the source of those copies
+// stays in the nearest cache, and the copies store as fast as the byte mover can.
 inline void krnFillPattern(const void* pixel, int pixelBytes, char* dst, int step, std::size_t rowBytes, int rows)
 {
     const auto* px = static_cast<const unsigned char*>(pixel);
@@ -22,15 +23,16 @@ inline void krnFillPattern(const void* pixel, int pixelBytes, char* dst, int ste
         for (int y = 0; y < rows; ++y) std::memset(rowAt(dst, step, y), px[0], rowBytes);
         return;
     }
-    // 3072 bytes hold whole pixels of every size up to 16 bytes (1, 2, 3, 4, 6, 8, 12, 16).
-    constexpr std::size_t kBlock = 3072;
-    alignas(64) unsigned char block[kBlock];
-    const std::size_t used = std::min(kBlock, rowBytes);
-    for (std::size_t i = 0; i < used; i += static_cast<std::size_t>(pixelBytes))
-        std::memcpy(block + i, px, std::min<std::size_t>(static_cast<std::size_t>(pixelBytes), used - i));
+    // A whole number of pixels of every size up to 16 bytes (1, 2, 3, 4, 6, 8, 12, 16).
+    constexpr std::size_t kStretch = 48 * 512;
+    const std::size_t stretch = std::min(kStretch, rowBytes);
+    const auto pb = static_cast<std::size_t>(pixelBytes);
+    std::memcpy(dst, px, std::min(pb, stretch));
+    for (std::size_t done = pb; done < stretch; done *= 2) krnCopyBytes(dst, dst + done, std::min(done, stretch - done));
     for (int y = 0; y < rows; ++y) {
         char* d = rowAt(dst, step, y);
-        for (std::size_t off = 0; off < rowBytes; off += kBlock) krnCopyBytes(block, d + off, std::min(kBlock, rowBytes - off));
+        for (std::size_t off = y == 0 ? stretch : 0; off < rowBytes; off += stretch)
+            krnCopyBytes(dst, d + off, std::min(stretch, rowBytes - off));
     }
 }
 
