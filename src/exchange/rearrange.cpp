@@ -6,6 +6,13 @@
 
 #include <utility>
 
+#if defined(__SSSE3__)
+#include <tmmintrin.h>
+#endif
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace pxl::exch {
 
 namespace {
@@ -24,24 +31,103 @@ template <class S, class L> inline void swapPixel(S* a, S* b)
     for (int c = 0; c < L::proc; ++c) std::swap(a[c], b[c]);
 }
 
+#if defined(__SSE2__)
+// B by B blocks of one-, two- and four-byte samples transposed in registers: rows are loaded,
+// interleaved pairwise at widening lane sizes, and stored as columns.
+template <class P> inline constexpr int kBlock = sizeof(P) == 1 || sizeof(P) == 2 ? 8 : sizeof(P) == 4 ? 4 : 0;
+
+template <class P>
+inline void transposeBlock(const P* const* s, int x, P* const* d, int y)
+{
+    if constexpr (sizeof(P) == 1) {
+        __m128i r[8];
+        for (int i = 0; i < 8; ++i) r[i] = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(s[i] + x));
+        const __m128i b0 = _mm_unpacklo_epi8(r[0], r[1]), b1 = _mm_unpacklo_epi8(r[2], r[3]);
+        const __m128i b2 = _mm_unpacklo_epi8(r[4], r[5]), b3 = _mm_unpacklo_epi8(r[6], r[7]);
+        const __m128i c0 = _mm_unpacklo_epi16(b0, b1), c1 = _mm_unpackhi_epi16(b0, b1);
+        const __m128i c2 = _mm_unpacklo_epi16(b2, b3), c3 = _mm_unpackhi_epi16(b2, b3);
+        const __m128i e[4] = {_mm_unpacklo_epi32(c0, c2), _mm_unpackhi_epi32(c0, c2), _mm_unpacklo_epi32(c1, c3),
+                              _mm_unpackhi_epi32(c1, c3)};
+        for (int i = 0; i < 4; ++i) {
+            _mm_storel_epi64(reinterpret_cast<__m128i*>(d[2 * i] + y), e[i]);
+            _mm_storel_epi64(reinterpret_cast<__m128i*>(d[2 * i + 1] + y), _mm_unpackhi_epi64(e[i], e[i]));
+        }
+    } else if constexpr (sizeof(P) == 2) {
+        __m128i r[8];
+        for (int i = 0; i < 8; ++i) r[i] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s[i] + x));
+        const __m128i b0 = _mm_unpacklo_epi16(r[0], r[1]), b1 = _mm_unpackhi_epi16(r[0], r[1]);
+        const __m128i b2 = _mm_unpacklo_epi16(r[2], r[3]), b3 = _mm_unpackhi_epi16(r[2], r[3]);
+        const __m128i b4 = _mm_unpacklo_epi16(r[4], r[5]), b5 = _mm_unpackhi_epi16(r[4], r[5]);
+        const __m128i b6 = _mm_unpacklo_epi16(r[6], r[7]), b7 = _mm_unpackhi_epi16(r[6], r[7]);
+        const __m128i c0 = _mm_unpacklo_epi32(b0, b2), c1 = _mm_unpackhi_epi32(b0, b2);
+        const __m128i c2 = _mm_unpacklo_epi32(b1, b3), c3 = _mm_unpackhi_epi32(b1, b3);
+        const __m128i c4 = _mm_unpacklo_epi32(b4, b6), c5 = _mm_unpackhi_epi32(b4, b6);
+        const __m128i c6 = _mm_unpacklo_epi32(b5, b7), c7 = _mm_unpackhi_epi32(b5, b7);
+        const __m128i e[8] = {_mm_unpacklo_epi64(c0, c4), _mm_unpackhi_epi64(c0, c4), _mm_unpacklo_epi64(c1, c5),
+                              _mm_unpackhi_epi64(c1, c5), _mm_unpacklo_epi64(c2, c6), _mm_unpackhi_epi64(c2, c6),
+                              _mm_unpacklo_epi64(c3, c7), _mm_unpackhi_epi64(c3, c7)};
+        for (int i = 0; i < 8; ++i) _mm_storeu_si128(reinterpret_cast<__m128i*>(d[i] + y), e[i]);
+    } else {
+        __m128i r[4];
+        for (int i = 0; i < 4; ++i) r[i] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s[i] + x));
+        const __m128i b0 = _mm_unpacklo_epi32(r[0], r[1]), b1 = _mm_unpackhi_epi32(r[0], r[1]);
+        const __m128i b2 = _mm_unpacklo_epi32(r[2], r[3]), b3 = _mm_unpackhi_epi32(r[2], r[3]);
+        const __m128i e[4] = {_mm_unpacklo_epi64(b0, b2), _mm_unpackhi_epi64(b0, b2), _mm_unpacklo_epi64(b1, b3),
+                              _mm_unpackhi_epi64(b1, b3)};
+        for (int i = 0; i < 4; ++i) _mm_storeu_si128(reinterpret_cast<__m128i*>(d[i] + y), e[i]);
+    }
+}
+#else
+template <class P> inline constexpr int kBlock = 0;
+#endif
+
+// Pixels of 3, 6 or 12 bytes as one move of 4, 8 or 16.
+template <class P> inline constexpr int kWideMove = sizeof(P) == 3 ? 4 : sizeof(P) == 6 ? 8 : sizeof(P) == 12 ? 16 : 0;
+template <class P> inline void moveWide(P* d, const P* s)
+{
+    unsigned char word[kWideMove<P>];
+    std::memcpy(word, s, sizeof word);
+    std::memcpy(d, word, sizeof word);
+}
+
 // Destination row x, column y gets source row y, column x, for a source of w columns and h rows;
 // with Anti, destination row w-1-x, column h-1-y. Square tiles of up to 64 walk down the source,
-// then across; each source column of a tile becomes a destination row.
+// then across; each source column of a tile becomes a destination row. Inside a tile, whole
+// register blocks go through transposeBlock and the rest sample by sample.
 template <class P, bool Anti>
 void transposeTiles(const P* src, int srcStep, P* dst, int dstStep, int w, int h)
 {
-    const int t = std::min({w, h, 64});
+    constexpr int kTile = 64;
+    const int t = std::min({w, h, kTile});
+    const P* srcRows[kTile];
+    P* dstRows[kTile];
     for (int x0 = 0; x0 < w; x0 += t) {
         const int x1 = std::min(w, x0 + t);
+        for (int x = x0; x < x1; ++x) dstRows[x - x0] = rowAt(dst, dstStep, Anti ? w - 1 - x : x);
         for (int y0 = 0; y0 < h; y0 += t) {
             const int y1 = std::min(h, y0 + t);
+            for (int y = y0; y < y1; ++y) srcRows[y - y0] = rowAt(src, srcStep, y);
+            int bx = 0, by = 0;  // the part of the tile done in register blocks
+            if constexpr (kBlock<P> > 0 && !Anti) {
+                constexpr int B = kBlock<P>;
+                bx = (x1 - x0) / B * B;
+                by = (y1 - y0) / B * B;
+                for (int x = 0; x < bx; x += B)
+                    for (int y = 0; y < by; y += B) transposeBlock<P>(srcRows + y, x0 + x, dstRows + x, y0 + y);
+            }
             for (int x = x0; x < x1; ++x) {
-                if constexpr (Anti) {
-                    P* d = rowAt(dst, dstStep, w - 1 - x) + (h - 1);
-                    for (int y = y0; y < y1; ++y) *(d - y) = rowAt(src, srcStep, y)[x];
-                } else {
-                    P* d = rowAt(dst, dstStep, x);
-                    for (int y = y0; y < y1; ++y) d[y] = rowAt(src, srcStep, y)[x];
+                P* d = dstRows[x - x0];
+                int y = y0 + (x - x0 < bx ? by : 0);
+                if constexpr (!Anti && kWideMove<P> > 0) {
+                    // Three-sample pixels move as one wider word whose extra bytes land on the
+                    // next pixel of the row, written right after; the last column and row, whose
+                    // extra bytes would leave the images, move exactly.
+                    if (x < w - 1)
+                        for (const int yEnd = std::min(y1, h - 1); y < yEnd; ++y) moveWide(&d[y], &srcRows[y - y0][x]);
+                }
+                for (; y < y1; ++y) {
+                    if constexpr (Anti) d[h - 1 - y] = srcRows[y - y0][x];
+                    else d[y] = srcRows[y - y0][x];
                 }
             }
         }
@@ -157,6 +243,26 @@ PxlStatus mirrorDiagonal(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliS
     return pxlStatusOk;
 }
 
+namespace {
+// Destination pixel w-1-x gets source pixel x. Three-sample pixels move as one wider word, walking
+// the destination forwards so that each word's extra bytes land on the pixel written next; the
+// first and last pixels, whose extra bytes would leave the row, move exactly.
+template <class S, class L>
+void reverseRow(const S* s, S* d, int w)
+{
+    using P = Px<S, 3>;
+    if constexpr (std::is_same_v<L, C3> && kWideMove<P> > 0) {
+        const P* sp = reinterpret_cast<const P*>(s);
+        P* dp = reinterpret_cast<P*>(d);
+        dp[0] = sp[w - 1];
+        for (int x = w - 2; x > 0; --x) moveWide(dp + (w - 1 - x), sp + x);
+        if (w > 1) dp[w - 1] = sp[0];
+    } else {
+        for (int x = 0; x < w; ++x) movePixel<S, L>(d + L::mem * (w - 1 - x), s + L::mem * x);
+    }
+}
+}  // namespace
+
 template <class S, class L>
 PxlStatus mirror(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi, PxlAxis flip)
 {
@@ -177,7 +283,7 @@ PxlStatus mirror(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi,
             if constexpr (L::hasAlpha) krnCopyAC4Row(s, d, w);
             else krnCopyBytes(s, d, rowBytes);
         } else {
-            for (int x = 0; x < w; ++x) movePixel<S, L>(d + m * (w - 1 - x), s + m * x);
+            reverseRow<S, L>(s, d, w);
         }
     }
     return pxlStatusOk;
@@ -186,22 +292,70 @@ PxlStatus mirror(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi,
 // ---- SwapChannels ------------------------------------------------------------------------------
 
 namespace {
-// Destination channel c of each pixel gets source channel order[c], for c below Count. All the
-// pixel's samples are read before any is written, so source and destination may be one image.
+// Destination channel c of each pixel gets source channel order[c], for c below Count; the
+// destination's other channels stay. All the pixel's samples are read before any is written, so
+// source and destination may be one image.
+template <class S, int SrcN, int DstN, int Count>
+inline void swapPixels(const S* s, S* d, int from, int to, const int* o)
+{
+    for (int x = from; x < to; ++x) {
+        S t[Count];
+        for (int c = 0; c < Count; ++c) t[c] = s[SrcN * x + o[c]];
+        for (int c = 0; c < Count; ++c) d[DstN * x + c] = t[c];
+    }
+}
+
 template <class S, int SrcN, int DstN, int Count>
 void swapRows(const S* src, int srcStep, S* dst, int dstStep, PxliSize roi, const int* order)
 {
     int o[Count];
     for (int c = 0; c < Count; ++c) o[c] = order[c];
-    for (int y = 0; y < roi.height; ++y) {
-        const S* s = rowAt(src, srcStep, y);
-        S* d = rowAt(dst, dstStep, y);
-        for (int x = 0; x < roi.width; ++x) {
-            S t[Count];
-            for (int c = 0; c < Count; ++c) t[c] = s[SrcN * x + o[c]];
-            for (int c = 0; c < Count; ++c) d[DstN * x + c] = t[c];
-        }
+#if defined(__SSSE3__)
+    // As many whole pixels as one 16-byte window holds on both sides move with one byte shuffle.
+    // The window's tail beyond those pixels is the next pixels' bytes: where the layouts match it
+    // is shuffled onto itself, so an in-place call rewrites it unchanged; otherwise the next
+    // window overwrites it. Channels the order leaves alone (the alpha of AC4) take the
+    // destination's bytes: from the source itself in place, else blended from the destination.
+    constexpr int ps = SrcN * static_cast<int>(sizeof(S)), pd = DstN * static_cast<int>(sizeof(S));
+    constexpr int g = std::min(16 / ps, 16 / pd);
+    const bool inPlace = static_cast<const void*>(src) == static_cast<const void*>(dst);
+    alignas(16) uint8_t shuffle[16], keep[16];
+    for (int j = 0; j < 16; ++j) {
+        const int p = j / pd, c = j % pd / static_cast<int>(sizeof(S)), b = j % static_cast<int>(sizeof(S));
+        const bool written = p < g && c < Count, kept = p < g && c >= Count;
+        shuffle[j] = written ? static_cast<uint8_t>(p * ps + o[c] * static_cast<int>(sizeof(S)) + b)
+                   : ps == pd && (inPlace || !kept) ? static_cast<uint8_t>(j) : 0x80;
+        keep[j] = kept && !inPlace ? 0xFF : 0x00;
     }
+    const __m128i mask = _mm_load_si128(reinterpret_cast<const __m128i*>(shuffle));
+    const __m128i keepMask = _mm_load_si128(reinterpret_cast<const __m128i*>(keep));
+    // Groups whose windows lie inside the row on both sides.
+    const int lastFit = std::min(roi.width * ps - 16 < 0 ? -1 : (roi.width * ps - 16) / (g * ps),
+                                 roi.width * pd - 16 < 0 ? -1 : (roi.width * pd - 16) / (g * pd));
+    const int vecPixels = (lastFit + 1) * g;
+    auto rows = [&](auto blend) {
+        for (int y = 0; y < roi.height; ++y) {
+            const S* s = rowAt(src, srcStep, y);
+            S* d = rowAt(dst, dstStep, y);
+            const auto* sb = reinterpret_cast<const uint8_t*>(s);
+            auto* db = reinterpret_cast<uint8_t*>(d);
+            for (int x = 0; x < vecPixels; x += g) {
+                __m128i out = _mm_shuffle_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(sb + x * ps)), mask);
+                if constexpr (decltype(blend)::value)
+                    out = _mm_or_si128(out, _mm_and_si128(_mm_loadu_si128(reinterpret_cast<const __m128i*>(db + x * pd)), keepMask));
+                _mm_storeu_si128(reinterpret_cast<__m128i*>(db + x * pd), out);
+            }
+            swapPixels<S, SrcN, DstN, Count>(s, d, vecPixels, roi.width, o);
+        }
+    };
+    // Only AC4 keeps channels, and its windows hold whole pixels, so a blend never reads bytes
+    // that the previous window has just stored.
+    if (Count < DstN && !inPlace) rows(std::true_type{});
+    else rows(std::false_type{});
+#else
+    for (int y = 0; y < roi.height; ++y)
+        swapPixels<S, SrcN, DstN, Count>(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), 0, roi.width, o);
+#endif
 }
 
 template <int Count, int MaxIndex> bool badOrder(const int* order)

@@ -50,7 +50,8 @@ TYPED_TEST(Rearrange, TransposeMovesEveryPixelAcrossTheDiagonal)
     const std::pair<int, Plain<T>> forms[] = {{1, A::transposeC1}, {3, A::transposeC3}, {4, A::transposeC4}};
     const std::pair<int, InPlace<T>> inPlace[] = {{1, A::transposeC1I}, {3, A::transposeC3I}, {4, A::transposeC4I}};
     for (auto [n, fn] : forms)
-        for (auto [w, h] : kSizes) {
+        for (const auto& sz : kSizes) {
+        const int w = sz.first, h = sz.second;
             SCOPED_TRACE(::testing::Message() << n << " channels, " << w << "x" << h);
             const auto src = randomImage<T>(w, h, n, rng);
             auto dst = randomImage<T>(h, w, n, rng);
@@ -96,8 +97,9 @@ TYPED_TEST(Rearrange, MirrorAboutEachAxisInAndOutOfPlace)
     struct Form { int n, written; MFn fn; MIFn inPlace; };
     for (const Form& f : {Form{1, 1, A::mirrorC1, A::mirrorC1I}, Form{3, 3, A::mirrorC3, A::mirrorC3I},
                           Form{4, 4, A::mirrorC4, A::mirrorC4I}, Form{4, 3, A::mirrorAC4, A::mirrorAC4I}})
-        for (auto [w, h] : kSizes)
+        for (const auto& sz : kSizes)
             for (PxlAxis axis : {pxlAxisHorizontal, pxlAxisVertical, pxlAxisBoth}) {
+                const int w = sz.first, h = sz.second;
                 SCOPED_TRACE(::testing::Message() << f.n << " channels, " << w << "x" << h << ", axis " << axis);
                 const auto src = randomImage<T>(w, h, f.n, rng);
                 auto dst = randomImage<T>(w, h, f.n, rng);
@@ -126,7 +128,8 @@ TYPED_TEST(Rearrange, MirrorAcrossTheDiagonals)
     using T = TypeParam;
     using A = ExchangeApi<T>;
     Rng rng(23);
-    for (auto [w, h] : kSizes) {
+    for (const auto& sz : kSizes) {
+        const int w = sz.first, h = sz.second;
         // The size is the destination's; the source has w rows of h columns.
         const auto src = randomImage<T>(h, w, 1, rng);
         auto dst = randomImage<T>(w, h, 1, rng);
