@@ -78,12 +78,53 @@ void frameDemo(Context& ctx)
     });
 }
 
+// Set, copy and rearrange: mirrored, transposed, channels swapped, a channel extracted, and a
+// disc painted through a mask.
+void exchangeDemo(Context& ctx)
+{
+    const Image& src = ctx.rgb;
+    const PxliSize roi = src.size();
+    Image out(src.width, src.height, 3), tr(src.height, src.width, 3), one(src.width, src.height, 1);
+    Image mask(src.width, src.height, 1);
+
+    pxliMirror_8u_C3R(src.data, src.step, out.data, out.step, roi, pxlAxisBoth);
+    ctx.save("mirror_both", out);
+    pxliTranspose_8u_C3R(src.data, src.step, tr.data, tr.step, roi);
+    ctx.save("transpose", tr);
+    static const int bgr[3] = {2, 1, 0};
+    pxliSwapChannels_8u_C3R(src.data, src.step, out.data, out.step, roi, bgr);
+    ctx.save("swap_channels_2_1_0", out);
+    pxliCopy_8u_C3C1R(src.data + 1, src.step, one.data, one.step, roi);
+    ctx.save("copy_green_channel", one);
+
+    for (int y = 0; y < mask.height; ++y)
+        for (int x = 0; x < mask.width; ++x) {
+            const int dx = x - mask.width / 2, dy = y - mask.height / 2;
+            mask.data[y * mask.step + x] = dx * dx + dy * dy < (mask.height / 3) * (mask.height / 3) ? 255 : 0;
+        }
+    static const Pxl8u gold[3] = {230, 180, 40};
+    pxliCopy_8u_C3R(src.data, src.step, out.data, out.step, roi);
+    pxliSet_8u_C3MR(gold, out.data, out.step, roi, mask.data, mask.step);
+    ctx.save("set_through_mask", out);
+
+    const std::string size = std::to_string(src.width) + "x" + std::to_string(src.height);
+    const double px = static_cast<double>(src.width) * src.height;
+    ctx.time("pxliCopy_8u_C3R", size, px, [&] { pxliCopy_8u_C3R(src.data, src.step, out.data, out.step, roi); });
+    ctx.time("pxliSet_8u_C3R", size, px, [&] { pxliSet_8u_C3R(gold, out.data, out.step, roi); });
+    ctx.time("pxliMirror_8u_C3R (both axes)", size, px,
+             [&] { pxliMirror_8u_C3R(src.data, src.step, out.data, out.step, roi, pxlAxisBoth); });
+    ctx.time("pxliTranspose_8u_C3R", size, px, [&] { pxliTranspose_8u_C3R(src.data, src.step, tr.data, tr.step, roi); });
+    ctx.time("pxliSwapChannels_8u_C3R", size, px,
+             [&] { pxliSwapChannels_8u_C3R(src.data, src.step, out.data, out.step, roi, bgr); });
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
 {
     static const std::vector<Entry> all = {
         {"frame", frameDemo},
+        {"exchange", exchangeDemo},
     };
     return all;
 }
