@@ -8,6 +8,7 @@
 
 #include "pxlipx/types.h"
 #include "pxlipx/frame.h"
+#include "pxlipx/arithmetic.h"
 #include "pxlipx/exchange.h"
 
 #endif

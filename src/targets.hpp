@@ -3,3 +3,4 @@
 
 #include "frame/frame.hpp"
 #include "exchange/exchange.hpp"
+#include "arithmetic/arithmetic.hpp"
