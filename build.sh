@@ -4,7 +4,8 @@
 #   ./build.sh test    build and run every test: Release with g++, AddressSanitizer and
 #                      UndefinedBehaviorSanitizer (on the first x86-64, so that the plain paths
 #                      run too), and clang++ for this machine's processor
-#   ./build.sh bench   build in Release and run the benchmarks against OpenCV and memcpy
+#   ./build.sh bench   build in Release for this machine and run the benchmarks against OpenCV
+#                      and memcpy (extra arguments go to Google Benchmark, e.g. --benchmark_filter=Add)
 # Each installs the Debian packages it needs when they are missing.
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -55,9 +56,11 @@ test)
     ;;
 bench)
     need "${base[@]}" libbenchmark-dev libopencv-dev
-    build build/release -DCMAKE_BUILD_TYPE=Release -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_BENCH=ON
+    # The peer picks the best instructions of this machine at run time; we compile for it.
+    build build/bench -DCMAKE_BUILD_TYPE=Release -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_BENCH=ON -DPXL_TARGET_CPU=native
     shift
-    build/release/bench/pxl_bench "$@"
+    build/bench/bench/pxl_bench --benchmark_min_time=0.05 --benchmark_repetitions=12 \
+        --benchmark_enable_random_interleaving=true "$@"
     ;;
 *)
     sed -n '2,7p' "$0" | sed 's/^# \{0,1\}//'

@@ -38,7 +38,9 @@ void addMemcpy(const std::string& op, std::size_t readBytes, std::size_t writeBy
     add(op, "memcpy", [n](benchmark::State& s) {
         Buffer src(n), dst(n);
         for (auto _ : s) {
+            benchmark::DoNotOptimize(src.p);
             std::memcpy(dst.p, src.p, n);
+            benchmark::DoNotOptimize(dst.p);
             benchmark::ClobberMemory();
         }
     });

@@ -3,6 +3,7 @@
 // the operation is a small type (first + second, or second - first) and the scale rule a
 // function object chosen once per call.
 #include "arithmetic/arithmetic.hpp"
+#include "arithmetic/saturating.hpp"
 #include "arithmetic/scale.hpp"
 #include "exchange/exchange.hpp"
 #include "frame/bind.hpp"
@@ -104,6 +105,20 @@ PxlStatus binary(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* 
 {
     if (!pSrc1 || !pSrc2 || !pDst) return pxlStatusNullPointer;
     if (roi.height < 1 || roi.width < 1) return pxlStatusBadSize;
+    if constexpr (!L::hasAlpha) {
+        // Rows that follow each other with no gap in all three images are one long row.
+        const std::size_t rowBytes = static_cast<std::size_t>(roi.width) * L::mem * sizeof(T);
+        const auto gapFree = [rowBytes](int step) { return static_cast<std::size_t>(step) == rowBytes; };
+        roi = mergedRows(roi, gapFree(src1Step) && gapFree(src2Step) && gapFree(dstStep));
+    }
+    if constexpr (std::is_integral_v<T> && !L::hasAlpha) {
+        if (f == 0) {
+            for (int y = 0; y < roi.height; ++y)
+                krnSaturatingRow<T, std::is_same_v<Op, AddOp>>(rowAt(pSrc1, src1Step, y), rowAt(pSrc2, src2Step, y),
+                                                              rowAt(pDst, dstStep, y), roi.width * L::mem);
+            return pxlStatusOk;
+        }
+    }
     const bool computed = withFinish<T, Op>(f, [&](auto finish) {
         binaryRows<T, Op, L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi, finish);
     });

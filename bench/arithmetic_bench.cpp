@@ -1,0 +1,64 @@
+// Add and subtract on a 1920x1080 frame, scale factor 0, against OpenCV's saturating add and
+// subtract and a memcpy of the bytes the op reads and writes.
+#include "bench.hpp"
+
+namespace {
+
+constexpr int W = 1920, H = 1080;
+
+template <class T, class Ours>
+void op(const std::string& name, int channels, [[maybe_unused]] int cvType, bool add, Ours ours)
+{
+    const int pb = channels * static_cast<int>(sizeof(T));
+    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, pb), b(W, H, pb), d(W, H, pb);
+        for (auto _ : s) {
+            benchmark::DoNotOptimize(ours(a.as<T>(), a.step, b.as<T>(), b.step, d.as<T>(), d.step, PxliSize{W, H}));
+            benchmark::ClobberMemory();
+        }
+    });
+    const std::size_t bytes = static_cast<std::size_t>(W) * H * static_cast<std::size_t>(pb);
+    pxlbench::addMemcpy(name, 2 * bytes, bytes);
+#ifdef PXL_BENCH_OPENCV
+    pxlbench::add(name, "peer", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, pb), b(W, H, pb), d(W, H, pb);
+        cv::Mat ma = a.mat(cvType), mb = b.mat(cvType), md = d.mat(cvType);
+        for (auto _ : s) {
+            if (add) cv::add(ma, mb, md);
+            else cv::subtract(mb, ma, md);
+            benchmark::ClobberMemory();
+        }
+    });
+#else
+    (void)add;
+#endif
+}
+
+#define PXLB_SFS(fn) [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) { return fn(a, as, b, bs, d, ds, r, 0); }
+#define PXLB_F(fn) [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) { return fn(a, as, b, bs, d, ds, r); }
+#ifndef PXL_BENCH_OPENCV
+#define CV_8UC1 0
+#define CV_8UC3 0
+#define CV_16SC1 0
+#define CV_16SC3 0
+#define CV_32FC1 0
+#define CV_32FC3 0
+#endif
+
+void arithmeticBenchmarks()
+{
+    const std::string sz = "/1920x1080";
+    op<Pxl8u>("Add 8u C1" + sz, 1, CV_8UC1, true, PXLB_SFS(pxliAdd_8u_C1RSfs));
+    op<Pxl8u>("Add 8u C3" + sz, 3, CV_8UC3, true, PXLB_SFS(pxliAdd_8u_C3RSfs));
+    op<Pxl8u>("Sub 8u C1" + sz, 1, CV_8UC1, false, PXLB_SFS(pxliSub_8u_C1RSfs));
+    op<Pxl16s>("Add 16s C1" + sz, 1, CV_16SC1, true, PXLB_SFS(pxliAdd_16s_C1RSfs));
+    op<Pxl16s>("Add 16s C3" + sz, 3, CV_16SC3, true, PXLB_SFS(pxliAdd_16s_C3RSfs));
+    op<Pxl16s>("Sub 16s C1" + sz, 1, CV_16SC1, false, PXLB_SFS(pxliSub_16s_C1RSfs));
+    op<Pxl32f>("Add 32f C1" + sz, 1, CV_32FC1, true, PXLB_F(pxliAdd_32f_C1R));
+    op<Pxl32f>("Add 32f C3" + sz, 3, CV_32FC3, true, PXLB_F(pxliAdd_32f_C3R));
+    op<Pxl32f>("Sub 32f C1" + sz, 1, CV_32FC1, false, PXLB_F(pxliSub_32f_C1R));
+}
+
+const pxlbench::Registrar registrar(arithmeticBenchmarks);
+
+}  // namespace
