@@ -63,7 +63,7 @@ bench)
         --benchmark_enable_random_interleaving=true "$@"
     ;;
 *)
-    sed -n '2,7p' "$0" | sed 's/^# \{0,1\}//'
+    sed -n '2,9p' "$0" | sed 's/^# \{0,1\}//'
     exit 2
     ;;
 esac

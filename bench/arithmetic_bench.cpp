@@ -51,6 +51,15 @@ void arithmeticBenchmarks()
     op<Pxl8u>("Add 8u C1" + sz, 1, CV_8UC1, true, PXLB_SFS(pxliAdd_8u_C1RSfs));
     op<Pxl8u>("Add 8u C3" + sz, 3, CV_8UC3, true, PXLB_SFS(pxliAdd_8u_C3RSfs));
     op<Pxl8u>("Sub 8u C1" + sz, 1, CV_8UC1, false, PXLB_SFS(pxliSub_8u_C1RSfs));
+    // With a scale (no peer has one): the exact rounding costs over the plain saturating sum.
+    pxlbench::add("Add 8u C1 f=1" + sz, "pxl", [](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), b(W, H, 1), d(W, H, 1);
+        for (auto _ : s) benchmark::DoNotOptimize(pxliAdd_8u_C1RSfs(a.as<Pxl8u>(), a.step, b.as<Pxl8u>(), b.step, d.as<Pxl8u>(), d.step, {W, H}, 1));
+    });
+    pxlbench::add("Add 16s C1 f=-3" + sz, "pxl", [](benchmark::State& s) {
+        pxlbench::Image a(W, H, 2), b(W, H, 2), d(W, H, 2);
+        for (auto _ : s) benchmark::DoNotOptimize(pxliAdd_16s_C1RSfs(a.as<Pxl16s>(), a.step, b.as<Pxl16s>(), b.step, d.as<Pxl16s>(), d.step, {W, H}, -3));
+    });
     op<Pxl16s>("Add 16s C1" + sz, 1, CV_16SC1, true, PXLB_SFS(pxliAdd_16s_C1RSfs));
     op<Pxl16s>("Add 16s C3" + sz, 3, CV_16SC3, true, PXLB_SFS(pxliAdd_16s_C3RSfs));
     op<Pxl16s>("Sub 16s C1" + sz, 1, CV_16SC1, false, PXLB_SFS(pxliSub_16s_C1RSfs));

@@ -70,7 +70,8 @@ void binaryRows(const T* a, int as, const T* b, int bs, T* d, int ds, PxliSize r
             for (int x = 0; x < roi.width; ++x)
                 for (int c = 0; c < 3; ++c) rd[4 * x + c] = finish(Op::apply(W(ra[4 * x + c]), W(rb[4 * x + c])));
         } else {
-            for (int i = 0; i < roi.width * L::mem; ++i) rd[i] = finish(Op::apply(W(ra[i]), W(rb[i])));
+            const int n = roi.width * L::mem;
+            for (int i = 0; i < n; ++i) rd[i] = finish(Op::apply(W(ra[i]), W(rb[i])));
         }
     }
 }

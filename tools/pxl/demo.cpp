@@ -118,6 +118,31 @@ void exchangeDemo(Context& ctx)
              [&] { pxliSwapChannels_8u_C3R(src.data, src.step, out.data, out.step, roi, bgr); });
 }
 
+// Add and subtract: the image blended with its mirror image (the sum halved by the scale
+// factor), their saturated difference, and the image brightened by a constant.
+void arithmeticDemo(Context& ctx)
+{
+    const Image& src = ctx.rgb;
+    const PxliSize roi = src.size();
+    Image mirrored(src.width, src.height, 3), out(src.width, src.height, 3);
+    pxliMirror_8u_C3R(src.data, src.step, mirrored.data, mirrored.step, roi, pxlAxisVertical);
+    pxliAdd_8u_C3RSfs(src.data, src.step, mirrored.data, mirrored.step, out.data, out.step, roi, 1);
+    ctx.save("add_mirror_halved", out);
+    pxliSub_8u_C3RSfs(mirrored.data, mirrored.step, src.data, src.step, out.data, out.step, roi, 0);
+    ctx.save("sub_mirror", out);
+    static const Pxl8u lift[3] = {60, 60, 60};
+    pxliAddC_8u_C3RSfs(src.data, src.step, lift, out.data, out.step, roi, 0);
+    ctx.save("addc_brighter", out);
+
+    const std::string size = std::to_string(src.width) + "x" + std::to_string(src.height);
+    const double px = static_cast<double>(src.width) * src.height;
+    ctx.time("pxliAdd_8u_C3RSfs (f=0)", size, px,
+             [&] { pxliAdd_8u_C3RSfs(src.data, src.step, mirrored.data, mirrored.step, out.data, out.step, roi, 0); });
+    ctx.time("pxliAdd_8u_C3RSfs (f=1)", size, px,
+             [&] { pxliAdd_8u_C3RSfs(src.data, src.step, mirrored.data, mirrored.step, out.data, out.step, roi, 1); });
+    ctx.time("pxliAddC_8u_C3RSfs (f=0)", size, px, [&] { pxliAddC_8u_C3RSfs(src.data, src.step, lift, out.data, out.step, roi, 0); });
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -125,6 +150,7 @@ const std::vector<Entry>& entries()
     static const std::vector<Entry> all = {
         {"frame", frameDemo},
         {"exchange", exchangeDemo},
+        {"arithmetic", arithmeticDemo},
     };
     return all;
 }
