@@ -10,5 +10,6 @@
 #include "pxlipx/frame.h"
 #include "pxlipx/arithmetic.h"
 #include "pxlipx/exchange.h"
+#include "pxlipx/convert.h"
 
 #endif

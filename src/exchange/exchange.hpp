@@ -40,4 +40,23 @@ template <class S, int N> PxlStatus swapChannelsInPlace(S* pSrcDst, int step, Px
 template <class T>
 PxlStatus swapChannelsC3C4(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, const int* order, T val);
 
+// Conversions between sample types.
+template <class S, class D, class L> PxlStatus convert(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi);
+template <class S, class D, class L>
+PxlStatus convertRound(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi, PxlRoundMode code);
+template <class S, class D>
+PxlStatus convertSfs(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi, PxlRoundMode code, int f);
+PxlStatus convert32f32uInPlace(Pxl32f* pSrcDst, int step, PxliSize roi, PxlRoundMode code, int f);
+template <class D, class L> PxlStatus scaleFrom8u(const Pxl8u* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi);
+template <class L>
+PxlStatus scale8u32f(const Pxl8u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roi, Pxl32f vMin, Pxl32f vMax);
+template <class S, class L>
+PxlStatus scaleTo8u(const S* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roi, PxlHint hint);
+template <class L>
+PxlStatus scale32f8u(const Pxl32f* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roi, Pxl32f vMin, Pxl32f vMax);
+template <class S, class D>
+PxlStatus scaleC(const S* pSrc, int srcStep, Pxl64f mVal, Pxl64f aVal, D* pDst, int dstStep, PxliSize roi, PxlHint hint);
+template <class T>
+PxlStatus scaleCInPlace(Pxl64f mVal, Pxl64f aVal, T* pSrcDst, int step, PxliSize roi, PxlHint hint);
+
 }  // namespace pxl::exch

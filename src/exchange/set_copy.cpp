@@ -116,6 +116,7 @@ PxlStatus copy(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi)
 {
     if (!pSrc || !pDst) return pxlStatusNullPointer;
     if (badSize(roi)) return pxlStatusBadSize;
+    if (pSrc == pDst && srcStep == dstStep) return pxlStatusOk;  // an image onto itself
     copyRegion<S, L>(pSrc, srcStep, pDst, dstStep, roi);
     return pxlStatusOk;
 }

@@ -25,6 +25,7 @@ template <std::size_t Bytes> struct BitsOfSize;
 template <> struct BitsOfSize<1> { using type = uint8_t; };
 template <> struct BitsOfSize<2> { using type = uint16_t; };
 template <> struct BitsOfSize<4> { using type = uint32_t; };
+template <> struct BitsOfSize<8> { using type = uint64_t; };
 template <class T> using Bits = typename BitsOfSize<sizeof(T)>::type;
 
 template <class T> inline Bits<T> toBits(T v) { return std::bit_cast<Bits<T>>(v); }

@@ -1,0 +1,270 @@
+// Conversion between sample types: Convert keeps the number (saturating, and rounding by a code
+// where the target is an integer and the source is not), Scale keeps the place in the range, and
+// ScaleC applies a multiplier and an offset. Every form is one row loop over a per-sample function
+// chosen once per call.
+#include "exchange/exchange.hpp"
+#include "exchange/rounding.hpp"
+#include "frame/bind.hpp"
+
+#include <algorithm>
+#include <cfloat>
+
+namespace pxl::exch {
+
+namespace {
+
+template <class T> constexpr bool kFloat = std::is_floating_point_v<T>;
+
+// An integer (or a float, for float targets) to D, saturating to D's range.
+template <class D, class S> inline D saturateTo(S x)
+{
+    if constexpr (kFloat<D>) {
+        return static_cast<D>(x);
+    } else {
+        using L = std::numeric_limits<D>;
+        const int64_t v = x;
+        return static_cast<D>(v < int64_t(L::min()) ? int64_t(L::min()) : v > int64_t(L::max()) ? int64_t(L::max()) : v);
+    }
+}
+
+// An exact integer x scaled by 2^-f, rounded by the code and saturated to D. For f > 0 the
+// quotient is floor(x / 2^f) with remainder rem in [0, 2^f): toward zero corrects a negative
+// quotient with a remainder, nearest-even rounds up above the half and at the half when odd,
+// nearest-away at the half when x is positive.
+template <class D, int Code> inline D scaleInteger(int64_t x, int f)
+{
+    using L = std::numeric_limits<D>;
+    if (f == 0) return saturateTo<D>(x);
+    if (f < 0) {
+        if (f <= -33) return x > 0 ? L::max() : x < 0 ? L::min() : D(0);  // |x| >= 1 saturates
+        return saturateTo<D>(x * (int64_t{1} << -f));
+    }
+    if (f >= 40) return D(0);  // |x| < 2^32, so |x / 2^f| < 2^-8 rounds to 0 by every code
+    const int64_t unit = int64_t{1} << f, half = unit >> 1;
+    int64_t q = x >> f;
+    const int64_t rem = x - q * unit;
+    if constexpr (Code == kTowardZero) q += x < 0 && rem != 0;
+    else if constexpr (Code == kNearestEven) q += rem > half || (rem == half && (q & 1));
+    else q += rem > half || (rem == half && x >= 0);
+    return saturateTo<D>(q);
+}
+
+// The rows of a region through fn, sample by sample: whole rows for C1 (and for C3, C4 flattened
+// into it), the first three samples of each pixel for AC4. Gap-free images run as one row.
+template <class S, class D, class L, class Fn>
+void convertRows(const S* src, int srcStep, D* dst, int dstStep, PxliSize roi, Fn fn)
+{
+    if constexpr (L::hasAlpha) {
+        for (int y = 0; y < roi.height; ++y) {
+            const S* s = rowAt(src, srcStep, y);
+            D* d = rowAt(dst, dstStep, y);
+            for (int x = 0; x < roi.width; ++x)
+                for (int c = 0; c < 3; ++c) d[4 * x + c] = fn(s[4 * x + c]);
+        }
+    } else {
+        const auto n0 = static_cast<std::size_t>(roi.width) * L::mem;
+        const PxliSize r = mergedRows({static_cast<int>(n0), roi.height},
+                                      static_cast<std::size_t>(srcStep) == n0 * sizeof(S) &&
+                                          static_cast<std::size_t>(dstStep) == n0 * sizeof(D));
+        for (int y = 0; y < r.height; ++y) {
+            const S* s = rowAt(src, srcStep, y);
+            D* d = rowAt(dst, dstStep, y);
+            const int n = r.width;
+            for (int i = 0; i < n; ++i) d[i] = fn(s[i]);
+        }
+    }
+}
+
+// Pointers, sizes, then (where the form checks them) steps below 1; C3 and C4 forms first test
+// the width, then run as C1 on rows three or four times as wide.
+template <class S, class D, class L, bool CheckSteps, class Fn>
+PxlStatus checkedConvert(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi, Fn fn)
+{
+    if constexpr (L::mem > 1 && !L::hasAlpha) {
+        if (roi.width < 1) return pxlStatusBadSize;
+        if (roi.width > INT32_MAX / L::mem) return pxlStatusBadSize;
+    }
+    if (!pSrc || !pDst) return pxlStatusNullPointer;
+    if (badSize(roi)) return pxlStatusBadSize;
+    if (CheckSteps && (srcStep < 1 || dstStep < 1)) return pxlStatusBadStep;
+    convertRows<S, D, L>(pSrc, srcStep, pDst, dstStep, roi, fn);
+    return pxlStatusOk;
+}
+
+}  // namespace
+
+// ---- Convert -------------------------------------------------------------------------------------
+
+template <class S, class D, class L>
+PxlStatus convert(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi)
+{
+    return checkedConvert<S, D, L, true>(pSrc, srcStep, pDst, dstStep, roi,
+                                                      [](S x) { return saturateTo<D>(x); });
+}
+
+template <class S, class D, class L>
+PxlStatus convertRound(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi, PxlRoundMode code)
+{
+    PxlStatus st = pxlStatusOk;
+    withRoundCode(code, [&](auto c) {
+        st = checkedConvert<S, D, L, true>(pSrc, srcStep, pDst, dstStep, roi,
+                                                        [](S x) { return roundToInt<D, decltype(c)::value>(x); });
+    });
+    return st;
+}
+
+// The source scaled by 2^-f, then rounded by the code and saturated. A float source is scaled in
+// double, which holds x * 2^-f exactly; an integer source is scaled exactly in 64-bit integers.
+// The 32s-source forms do not check steps.
+template <class S, class D>
+PxlStatus convertSfs(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi, PxlRoundMode code, int f)
+{
+    constexpr bool steps = !std::is_same_v<S, Pxl32s>;
+    PxlStatus st = pxlStatusOk;
+    withRoundCode(code, [&](auto c) {
+        constexpr int Code = decltype(c)::value;
+        if constexpr (kFloat<S>) {
+            const int e = std::clamp(-f, -2000, 2000);  // beyond that every result is 0 or saturated
+            st = checkedConvert<S, D, C1, steps>(pSrc, srcStep, pDst, dstStep, roi,
+                                                 [e](S x) { return roundToInt<D, Code>(std::ldexp(double(x), e)); });
+        } else {
+            st = checkedConvert<S, D, C1, steps>(pSrc, srcStep, pDst, dstStep, roi,
+                                                 [f](S x) { return scaleInteger<D, Code>(x, f); });
+        }
+    });
+    return st;
+}
+
+// 32f to 32u over the same memory: each sample is read as float and written back as unsigned.
+PxlStatus convert32f32uInPlace(Pxl32f* pSrcDst, int step, PxliSize roi, PxlRoundMode code, int f)
+{
+    if (!pSrcDst) return pxlStatusNullPointer;
+    if (badSize(roi)) return pxlStatusBadSize;
+    if (step < 1) return pxlStatusBadStep;
+    const int e = std::clamp(-f, -2000, 2000);
+    withRoundCode(code, [&](auto c) {
+        for (int y = 0; y < roi.height; ++y) {
+            auto* row = reinterpret_cast<Pxl32u*>(rowAt(pSrcDst, step, y));
+            for (int x = 0; x < roi.width; ++x)
+                row[x] = roundToInt<Pxl32u, decltype(c)::value>(std::ldexp(double(std::bit_cast<Pxl32f>(row[x])), e));
+        }
+    });
+    return pxlStatusOk;
+}
+
+// ---- Scale -------------------------------------------------------------------------------------
+
+namespace {
+// The nearest integer to t by truncation, lowered to even where t is an odd integer itself.
+inline int32_t truncLowerOddTie(double t)
+{
+    int32_t n = static_cast<int32_t>(t);
+    if ((n & 1) && double(n) == t) --n;
+    return n;
+}
+}  // namespace
+
+// 8u onto the whole range of 16u, 16s or 32s: 0 to the minimum, 255 to the maximum, evenly.
+template <class D, class L>
+PxlStatus scaleFrom8u(const Pxl8u* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi)
+{
+    return checkedConvert<Pxl8u, D, L, true>(pSrc, srcStep, pDst, dstStep, roi, [](Pxl8u x) {
+        if constexpr (std::is_same_v<D, Pxl16u>) return static_cast<D>(x * 257);
+        else if constexpr (std::is_same_v<D, Pxl16s>) return static_cast<D>(x * 257 - 32768);
+        else return x == 0 ? D(INT32_MIN) : static_cast<D>((int32_t(x) - 128) * 16843009 + 8421504);
+    });
+}
+
+template <class L>
+PxlStatus scale8u32f(const Pxl8u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roi, Pxl32f vMin, Pxl32f vMax)
+{
+    if (!(vMax > vMin)) return pxlStatusBadScaleRange;
+    const Pxl32f q = (vMax - vMin) / 255.0f;
+    return checkedConvert<Pxl8u, Pxl32f, L, true>(pSrc, srcStep, pDst, dstStep, roi,
+                                                                [vMin, q](Pxl8u x) { return vMin + Pxl32f(x) * q; });
+}
+
+// 16s, 16u or 32s onto 0..255. The fast form (any hint but 2) works on the bits; the accurate
+// form rounds (x - min) * 255 / range to nearest.
+template <class S, class L>
+PxlStatus scaleTo8u(const S* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roi, PxlHint hint)
+{
+    if (hint == 2) {
+        return checkedConvert<S, Pxl8u, L, true>(pSrc, srcStep, pDst, dstStep, roi, [](S x) {
+            double t;
+            if constexpr (std::is_same_v<S, Pxl16s>) t = double(x) * 0.0038910505827516317 + 128.001953125;
+            else if constexpr (std::is_same_v<S, Pxl16u>) t = double(x) / 257.0 + 0.5;
+            else t = (double(x) + 2147483648.0) / 16843009.0 + 0.5;
+            return static_cast<Pxl8u>(truncLowerOddTie(t));
+        });
+    }
+    return checkedConvert<S, Pxl8u, L, true>(pSrc, srcStep, pDst, dstStep, roi, [](S x) {
+        if constexpr (std::is_same_v<S, Pxl16s>) {
+            const int32_t v = x;
+            return static_cast<Pxl8u>(((v - int32_t(uint32_t(v) >> 8)) >> 8) - 128);
+        } else if constexpr (std::is_same_v<S, Pxl16u>) {
+            const int32_t v = x;
+            return static_cast<Pxl8u>((v - (v >> 8)) >> 8);
+        } else {
+            return static_cast<Pxl8u>((uint32_t(x) ^ 0x80000000u) >> 24);
+        }
+    });
+}
+
+// vMin..vMax onto 0..255: at or above vMax 255, at or below vMin 0, NaN 0, in between
+// x * factor + term + 0.5 truncated with exact ties lowered to even.
+template <class L>
+PxlStatus scale32f8u(const Pxl32f* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roi, Pxl32f vMin, Pxl32f vMax)
+{
+    if (!pSrc || !pDst) return pxlStatusNullPointer;
+    if (badSize(roi)) return pxlStatusBadSize;
+    if (srcStep < 1 || dstStep < 1) return pxlStatusBadStep;
+    if (!(vMax > vMin)) return pxlStatusBadScaleRange;
+    const Pxl32f factor = 255.0f / (vMax - vMin);
+    const double bias = double(-vMin * factor) + 0.5;
+    return checkedConvert<Pxl32f, Pxl8u, L, true>(pSrc, srcStep, pDst, dstStep, roi, [=](Pxl32f x) {
+        if (x >= vMax) return Pxl8u(255);
+        if (x <= vMin || x != x) return Pxl8u(0);
+        return static_cast<Pxl8u>(truncLowerOddTie(double(x) * double(factor) + bias));
+    });
+}
+
+// ---- ScaleC ------------------------------------------------------------------------------------
+// saturate(x * mVal + aVal) in double: integer targets clamp in floating point and round to
+// nearest with ties to even (NaN gives 0); 32f targets clamp to the finite float range.
+
+namespace {
+template <class D> inline D scaleCValue(double v)
+{
+    if constexpr (std::is_same_v<D, Pxl64f>) return v;
+    else if constexpr (std::is_same_v<D, Pxl32f>) return static_cast<Pxl32f>(v > FLT_MAX ? FLT_MAX : v < -FLT_MAX ? -FLT_MAX : v);
+    else return roundToInt<D, kNearestEven>(v);
+}
+
+constexpr double kUnitTolerance = 2.220446049250313e-16;
+}  // namespace
+
+template <class S, class D>
+PxlStatus scaleC(const S* pSrc, int srcStep, Pxl64f mVal, Pxl64f aVal, D* pDst, int dstStep, PxliSize roi, PxlHint)
+{
+    if constexpr (std::is_same_v<S, D>) {
+        // Multiplying by one and adding nothing is a copy, which makes its own checks.
+        if (std::fabs(mVal - 1.0) <= kUnitTolerance && std::fabs(aVal) < kUnitTolerance) {
+            const PxliSize bytes{roi.width < 1 || roi.width > INT32_MAX / int(sizeof(S)) ? std::min(roi.width, 0) : roi.width * int(sizeof(S)),
+                                 roi.height};
+            return copy<uint8_t, C1>(reinterpret_cast<const uint8_t*>(pSrc), srcStep, reinterpret_cast<uint8_t*>(pDst), dstStep, bytes);
+        }
+    }
+    return checkedConvert<S, D, C1, true>(pSrc, srcStep, pDst, dstStep, roi,
+                                                      [mVal, aVal](S x) { return scaleCValue<D>(double(x) * mVal + aVal); });
+}
+
+template <class T>
+PxlStatus scaleCInPlace(Pxl64f mVal, Pxl64f aVal, T* pSrcDst, int step, PxliSize roi, PxlHint hint)
+{
+    return scaleC<T, T>(pSrcDst, step, mVal, aVal, pSrcDst, step, roi, hint);
+}
+
+}  // namespace pxl::exch
+
+#include "inst/exchange/convert.inc"
