@@ -36,7 +36,9 @@ template <class D, int Code> inline D scaleInteger(int64_t x, int f)
     using L = std::numeric_limits<D>;
     if (f == 0) return saturateTo<D>(x);
     if (f < 0) {
-        if (f <= -33) return x > 0 ? L::max() : x < 0 ? L::min() : D(0);  // |x| >= 1 saturates
+        // Every target of these forms is at most 32s, which 1 * 2^31 already exceeds; below that
+        // the product of a 32-bit x fits 64 bits.
+        if (f <= -31) return x > 0 ? L::max() : x < 0 ? L::min() : D(0);
         return saturateTo<D>(x * (int64_t{1} << -f));
     }
     if (f >= 40) return D(0);  // |x| < 2^32, so |x / 2^f| < 2^-8 rounds to 0 by every code
@@ -48,6 +50,10 @@ template <class D, int Code> inline D scaleInteger(int64_t x, int f)
     else q += rem > half || (rem == half && x >= 0);
     return saturateTo<D>(q);
 }
+
+// The power of two that multiplies a float source: 2^-f, held within a range beyond which every
+// result is already 0 or saturated (and -f cannot overflow).
+inline int scaleExponent(int f) { return f >= 4000 ? -4000 : f <= -4000 ? 4000 : -f; }
 
 // The rows of a region through fn, sample by sample: whole rows for C1 (and for C3, C4 flattened
 // into it), the first three samples of each pixel for AC4. Gap-free images run as one row.
@@ -124,7 +130,7 @@ PxlStatus convertSfs(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize 
     withRoundCode(code, [&](auto c) {
         constexpr int Code = decltype(c)::value;
         if constexpr (kFloat<S>) {
-            const int e = std::clamp(-f, -2000, 2000);  // beyond that every result is 0 or saturated
+            const int e = scaleExponent(f);
             st = checkedConvert<S, D, C1, steps>(pSrc, srcStep, pDst, dstStep, roi,
                                                  [e](S x) { return roundToInt<D, Code>(std::ldexp(double(x), e)); });
         } else {
@@ -141,7 +147,7 @@ PxlStatus convert32f32uInPlace(Pxl32f* pSrcDst, int step, PxliSize roi, PxlRound
     if (!pSrcDst) return pxlStatusNullPointer;
     if (badSize(roi)) return pxlStatusBadSize;
     if (step < 1) return pxlStatusBadStep;
-    const int e = std::clamp(-f, -2000, 2000);
+    const int e = scaleExponent(f);
     withRoundCode(code, [&](auto c) {
         for (int y = 0; y < roi.height; ++y) {
             auto* row = reinterpret_cast<Pxl32u*>(rowAt(pSrcDst, step, y));
