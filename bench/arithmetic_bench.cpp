@@ -12,6 +12,7 @@ void op(const std::string& name, int channels, [[maybe_unused]] int cvType, bool
     const int pb = channels * static_cast<int>(sizeof(T));
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, pb), b(W, H, pb), d(W, H, pb);
+        if constexpr (std::is_same_v<T, Pxl32f>) { a.fillFloats(-50.0f, 300.0f); b.fillFloats(0.0f, 1.0f); }
         for (auto _ : s) {
             benchmark::DoNotOptimize(ours(a.as<T>(), a.step, b.as<T>(), b.step, d.as<T>(), d.step, PxliSize{W, H}));
             benchmark::ClobberMemory();
@@ -22,6 +23,7 @@ void op(const std::string& name, int channels, [[maybe_unused]] int cvType, bool
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, pb), b(W, H, pb), d(W, H, pb);
+        if constexpr (std::is_same_v<T, Pxl32f>) { a.fillFloats(-50.0f, 300.0f); b.fillFloats(0.0f, 1.0f); }
         cv::Mat ma = a.mat(cvType), mb = b.mat(cvType), md = d.mat(cvType);
         for (auto _ : s) {
             if (add) cv::add(ma, mb, md);

@@ -31,6 +31,9 @@ struct Image {
     void* data;
     int32_t step;
     int width, height, pixelBytes;
+    // Samples of 32f images as real pixel values (lo to hi with fractions) rather than bit
+    // patterns, which would be denormals and NaNs half the time.
+    void fillFloats(float lo, float hi);
     std::size_t bytes() const { return static_cast<std::size_t>(width) * pixelBytes * height; }
 #ifdef PXL_BENCH_OPENCV
     cv::Mat mat(int type) const { return cv::Mat(height, width, type, data, static_cast<std::size_t>(step)); }

@@ -26,6 +26,15 @@ Image::Image(int w, int h, int pb) : width(w), height(h), pixelBytes(pb)
 }
 Image::~Image() { pxliFree(data); }
 
+void Image::fillFloats(float lo, float hi)
+{
+    const int n = width * pixelBytes / 4;
+    for (int y = 0; y < height; ++y) {
+        auto* row = reinterpret_cast<float*>(static_cast<char*>(data) + static_cast<std::ptrdiff_t>(y) * step);
+        for (int i = 0; i < n; ++i) row[i] = lo + (hi - lo) * static_cast<float>((i * 37 + y * 101) % 1024) / 1024.0f;
+    }
+}
+
 void add(const std::string& op, const char* who, std::function<void(benchmark::State&)> body)
 {
     benchmark::RegisterBenchmark((op + "/" + who).c_str(), [body](benchmark::State& s) { body(s); })

@@ -57,10 +57,12 @@ inline int scaleExponent(int f) { return f >= 4000 ? -4000 : f <= -4000 ? 4000 :
 
 // The rows of a region through fn, sample by sample: whole rows for C1 (and for C3, C4 flattened
 // into it), the first three samples of each pixel for AC4. Gap-free images run as one row.
-template <class S, class D, class L, class Fn>
-void convertRows(const S* src, int srcStep, D* dst, int dstStep, PxliSize roi, Fn fn)
+// A whole-row kernel, where one is given, replaces the per-sample loop with the same results.
+template <class S, class D, class L, class Fn, class RowFn>
+void convertRows(const S* src, int srcStep, D* dst, int dstStep, PxliSize roi, Fn fn, RowFn rowFn)
 {
     if constexpr (L::hasAlpha) {
+        (void)rowFn;
         for (int y = 0; y < roi.height; ++y) {
             const S* s = rowAt(src, srcStep, y);
             D* d = rowAt(dst, dstStep, y);
@@ -76,15 +78,19 @@ void convertRows(const S* src, int srcStep, D* dst, int dstStep, PxliSize roi, F
             const S* s = rowAt(src, srcStep, y);
             D* d = rowAt(dst, dstStep, y);
             const int n = r.width;
-            for (int i = 0; i < n; ++i) d[i] = fn(s[i]);
+            if constexpr (std::is_same_v<RowFn, std::nullptr_t>) {
+                for (int i = 0; i < n; ++i) d[i] = fn(s[i]);
+            } else {
+                rowFn(s, d, n);
+            }
         }
     }
 }
 
 // Pointers, sizes, then (where the form checks them) steps below 1; C3 and C4 forms first test
 // the width, then run as C1 on rows three or four times as wide.
-template <class S, class D, class L, bool CheckSteps, class Fn>
-PxlStatus checkedConvert(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi, Fn fn)
+template <class S, class D, class L, bool CheckSteps, class Fn, class RowFn = std::nullptr_t>
+PxlStatus checkedConvert(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi, Fn fn, RowFn rowFn = nullptr)
 {
     if constexpr (L::mem > 1 && !L::hasAlpha) {
         if (roi.width < 1) return pxlStatusBadSize;
@@ -93,7 +99,7 @@ PxlStatus checkedConvert(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliS
     if (!pSrc || !pDst) return pxlStatusNullPointer;
     if (badSize(roi)) return pxlStatusBadSize;
     if (CheckSteps && (srcStep < 1 || dstStep < 1)) return pxlStatusBadStep;
-    convertRows<S, D, L>(pSrc, srcStep, pDst, dstStep, roi, fn);
+    convertRows<S, D, L>(pSrc, srcStep, pDst, dstStep, roi, fn, rowFn);
     return pxlStatusOk;
 }
 
@@ -113,8 +119,9 @@ PxlStatus convertRound(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSiz
 {
     PxlStatus st = pxlStatusOk;
     withRoundCode(code, [&](auto c) {
-        st = checkedConvert<S, D, L, true>(pSrc, srcStep, pDst, dstStep, roi,
-                                                        [](S x) { return roundToInt<D, decltype(c)::value>(x); });
+        constexpr int Code = decltype(c)::value;
+        st = checkedConvert<S, D, L, true>(pSrc, srcStep, pDst, dstStep, roi, [](S x) { return roundToInt<D, Code>(x); },
+                                           [](const S* s, D* d, int n) { krnRoundRow<D, Code>(s, d, n); });
     });
     return st;
 }

@@ -10,6 +10,10 @@
 #include <limits>
 #include <type_traits>
 
+#if defined(__SSE2__)
+#include <immintrin.h>
+#endif
+
 namespace pxl {
 
 enum RoundCode { kTowardZero = 0, kNearestEven = 1, kNearestAway = 2 };
@@ -60,6 +64,84 @@ template <class Body> inline void withRoundCode(int code, Body&& body)
     if (code == kTowardZero) body(std::integral_constant<int, kTowardZero>{});
     else if (code == kNearestEven) body(std::integral_constant<int, kNearestEven>{});
     else body(std::integral_constant<int, kNearestAway>{});
+}
+
+// A row of floats to 8- or 16-bit integers by the code: roundToInt for every sample. The vector
+// body converts four samples at a time with the processor's float-to-integer conversion under a
+// rounding field set for the call (to nearest for code 1; toward zero around the added half of
+// code 2, so that the sum itself cannot round up), and restores the caller's control register
+// before it returns. NaN is zeroed and the range clamped before the conversion.
+template <class D, int Code>
+inline void krnRoundRow(const float* s, D* d, int n)
+{
+    int i = 0;
+#if defined(__SSE2__)
+    constexpr bool packable = sizeof(D) == 1 || std::is_same_v<D, int16_t>
+#if defined(__SSE4_1__)
+                              || std::is_same_v<D, uint16_t>
+#endif
+        ;
+    if constexpr (packable) {
+        const unsigned saved = _mm_getcsr();
+        constexpr unsigned kRoundingField = 0x6000, kFieldNearest = 0x0000, kFieldTruncate = 0x6000;
+        if constexpr (Code != kTowardZero)
+            _mm_setcsr((saved & ~kRoundingField) | (Code == kNearestEven ? kFieldNearest : kFieldTruncate));
+        const __m128 hi = _mm_set1_ps(float(std::numeric_limits<D>::max()));
+        const __m128 half = _mm_set1_ps(0.5f), sign = _mm_set1_ps(-0.0f);
+        // Below the range the conversion gives INT32_MIN or a value the packs saturate; above it
+        // the minimum with hi (taken with x second, so that NaN stays NaN) is needed. NaN
+        // converts to INT32_MIN, which the unsigned packs turn into 0; signed targets zero it.
+        auto four = [&](const float* p) {
+            __m128 x = _mm_min_ps(hi, _mm_loadu_ps(p));
+            if constexpr (std::is_signed_v<D>) x = _mm_and_ps(x, _mm_cmpord_ps(x, x));
+            if constexpr (Code == kTowardZero) return _mm_cvttps_epi32(x);
+            if constexpr (Code != kNearestEven) x = _mm_add_ps(x, _mm_or_ps(half, _mm_and_ps(x, sign)));
+            return Code == kNearestEven ? _mm_cvtps_epi32(x) : _mm_cvttps_epi32(x);
+        };
+#if defined(__AVX2__)
+        const __m256 hi8 = _mm256_set1_ps(float(std::numeric_limits<D>::max()));
+        const __m256 half8 = _mm256_set1_ps(0.5f), sign8 = _mm256_set1_ps(-0.0f);
+        auto eight = [&](const float* p) {
+            __m256 x = _mm256_min_ps(hi8, _mm256_loadu_ps(p));
+            if constexpr (std::is_signed_v<D>) x = _mm256_and_ps(x, _mm256_cmp_ps(x, x, _CMP_ORD_Q));
+            if constexpr (Code == kTowardZero) return _mm256_cvttps_epi32(x);
+            if constexpr (Code != kNearestEven) x = _mm256_add_ps(x, _mm256_or_ps(half8, _mm256_and_ps(x, sign8)));
+            return Code == kNearestEven ? _mm256_cvtps_epi32(x) : _mm256_cvttps_epi32(x);
+        };
+        // The packs work within 128-bit halves; a permute puts the quarters back in order.
+        auto words = [&](const float* p) {
+            const __m256i a = eight(p), b = eight(p + 8);
+            const __m256i w = std::is_same_v<D, uint16_t> ? _mm256_packus_epi32(a, b) : _mm256_packs_epi32(a, b);
+            return _mm256_permute4x64_epi64(w, 0xD8);
+        };
+        constexpr int wide = sizeof(D) == 1 ? 32 : 16;
+        for (; i + wide <= n; i += wide) {
+            __m256i w = words(s + i);
+            if constexpr (sizeof(D) == 1) {
+                const __m256i w2 = words(s + i + 16);
+                w = _mm256_permute4x64_epi64(std::is_same_v<D, uint8_t> ? _mm256_packus_epi16(w, w2) : _mm256_packs_epi16(w, w2), 0xD8);
+            }
+            _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i), w);
+        }
+#endif
+        constexpr int step = sizeof(D) == 1 ? 16 : 8;
+        for (; i + step <= n; i += step) {
+            const __m128i a = four(s + i), b = four(s + i + 4);
+            __m128i w;
+            if constexpr (std::is_same_v<D, uint16_t>) w = _mm_packus_epi32(a, b);
+            else w = _mm_packs_epi32(a, b);
+            if constexpr (sizeof(D) == 1) {
+                const __m128i w2 = _mm_packs_epi32(four(s + i + 8), four(s + i + 12));
+                w = std::is_same_v<D, uint8_t> ? _mm_packus_epi16(w, w2) : _mm_packs_epi16(w, w2);
+                _mm_storeu_si128(reinterpret_cast<__m128i*>(d + i), w);
+            } else {
+                _mm_storeu_si128(reinterpret_cast<__m128i*>(d + i), w);
+            }
+        }
+        _mm_setcsr(saved);
+    }
+#endif
+    for (; i < n; ++i) d[i] = roundToInt<D, Code>(s[i]);
 }
 
 }  // namespace pxl
