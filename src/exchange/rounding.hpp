@@ -111,7 +111,8 @@ inline void krnRoundRow(const float* s, D* d, int n)
         // The packs work within 128-bit halves; a permute puts the quarters back in order.
         auto words = [&](const float* p) {
             const __m256i a = eight(p), b = eight(p + 8);
-            const __m256i w = std::is_same_v<D, uint16_t> ? _mm256_packus_epi32(a, b) : _mm256_packs_epi32(a, b);
+            constexpr bool isUnsigned = std::is_same_v<D, uint16_t>;
+            const __m256i w = isUnsigned ? _mm256_packus_epi32(a, b) : _mm256_packs_epi32(a, b);
             return _mm256_permute4x64_epi64(w, 0xD8);
         };
         constexpr int wide = sizeof(D) == 1 ? 32 : 16;
@@ -119,7 +120,9 @@ inline void krnRoundRow(const float* s, D* d, int n)
             __m256i w = words(s + i);
             if constexpr (sizeof(D) == 1) {
                 const __m256i w2 = words(s + i + 16);
-                w = _mm256_permute4x64_epi64(std::is_same_v<D, uint8_t> ? _mm256_packus_epi16(w, w2) : _mm256_packs_epi16(w, w2), 0xD8);
+                constexpr bool isUnsigned = std::is_same_v<D, uint8_t>;
+                const __m256i bytes = isUnsigned ? _mm256_packus_epi16(w, w2) : _mm256_packs_epi16(w, w2);
+                w = _mm256_permute4x64_epi64(bytes, 0xD8);
             }
             _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i), w);
         }

@@ -226,7 +226,8 @@ TEST(Scale, From8uSpreadsOverTheWholeRange)
     // 0 to the minimum and 255 to the maximum of 32s, evenly: steps of (2^32 - 1) / 255.
     expectLayouts<Pxl8u, Pxl32s>("Scale_8u32s", pxliScale_8u32s_C1R, pxliScale_8u32s_C3R, pxliScale_8u32s_C4R, pxliScale_8u32s_AC4R,
                                  [](Pxl8u x) { return static_cast<Pxl32s>(INT32_MIN + int64_t{x} * (4294967295LL / 255)); }, rng);
-    for (auto [lo, hi] : {std::pair{0.0f, 1.0f}, {-3.5f, 7.25f}, {-1e6f, 1e6f}}) {
+    for (const auto& range : {std::pair{0.0f, 1.0f}, {-3.5f, 7.25f}, {-1e6f, 1e6f}}) {
+        const float lo = range.first, hi = range.second;
         const float q = (hi - lo) / 255.0f;
         expectLayouts<Pxl8u, Pxl32f>(
             "Scale_8u32f", [lo, hi](auto... a) { return pxliScale_8u32f_C1R(a..., lo, hi); },
@@ -296,7 +297,8 @@ TEST(Scale, To8uFastAndAccurate)
 TEST(Scale, From32fClampsAndRoundsTiesToEven)
 {
     Rng rng(56);
-    for (auto [lo, hi] : {std::pair{0.0f, 255.0f}, {-1.0f, 1.0f}, {10.0f, 20.5f}}) {
+    for (const auto& range : {std::pair{0.0f, 255.0f}, {-1.0f, 1.0f}, {10.0f, 20.5f}}) {
+        const float lo = range.first, hi = range.second;
         const float factor = 255.0f / (hi - lo);
         const float term = -lo * factor;
         auto ref = [=](Pxl32f x) -> Pxl8u {

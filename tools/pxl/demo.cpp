@@ -143,6 +143,30 @@ void arithmeticDemo(Context& ctx)
     ctx.time("pxliAddC_8u_C3RSfs (f=0)", size, px, [&] { pxliAddC_8u_C3RSfs(src.data, src.step, lift, out.data, out.step, roi, 0); });
 }
 
+// Conversions: the gray image to floats and back through a gamma-like rescale with ScaleC, and
+// Scale from 32f onto 0..255 of a narrower range, which saturates the ends.
+void convertDemo(Context& ctx)
+{
+    const Image& gray = ctx.gray;
+    const PxliSize roi = gray.size();
+    int32_t fstep = 0;
+    Pxl32f* f = pxliMalloc_32f_C1(roi.width, roi.height, &fstep);
+    Image out(roi.width, roi.height, 1);
+    pxliConvert_8u32f_C1R(gray.data, gray.step, f, fstep, roi);
+    pxliScale_32f8u_C1R(f, fstep, out.data, out.step, roi, 64.0f, 192.0f);
+    ctx.save("scale_32f8u_contrast", out);
+    pxliScaleC_8u_C1R(gray.data, gray.step, -1.0, 255.0, out.data, out.step, roi, 0);
+    ctx.save("scalec_negative", out);
+
+    const std::string size = std::to_string(roi.width) + "x" + std::to_string(roi.height);
+    const double px = static_cast<double>(roi.width) * roi.height;
+    ctx.time("pxliConvert_8u32f_C1R", size, px, [&] { pxliConvert_8u32f_C1R(gray.data, gray.step, f, fstep, roi); });
+    ctx.time("pxliConvert_32f8u_C1R (nearest)", size, px,
+             [&] { pxliConvert_32f8u_C1R(f, fstep, out.data, out.step, roi, pxlRoundNearestEven); });
+    ctx.time("pxliScaleC_8u_C1R", size, px, [&] { pxliScaleC_8u_C1R(gray.data, gray.step, -1.0, 255.0, out.data, out.step, roi, 0); });
+    pxliFree(f);
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -151,6 +175,7 @@ const std::vector<Entry>& entries()
         {"frame", frameDemo},
         {"exchange", exchangeDemo},
         {"arithmetic", arithmeticDemo},
+        {"convert", convertDemo},
     };
     return all;
 }
