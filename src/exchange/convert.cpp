@@ -7,6 +7,7 @@
 #include "frame/bind.hpp"
 
 #include <algorithm>
+#include <cfenv>
 #include <cfloat>
 
 namespace pxl::exch {
@@ -247,11 +248,46 @@ PxlStatus scale32f8u(const Pxl32f* pSrc, int srcStep, Pxl8u* pDst, int dstStep, 
 // nearest with ties to even (NaN gives 0); 32f targets clamp to the finite float range.
 
 namespace {
+// The rounding mode set to nearest for the length of a call, and the caller's restored after.
+class NearestRounding {
+public:
+    NearestRounding() : saved_(std::fegetround())
+    {
+        if (saved_ != FE_TONEAREST) std::fesetround(FE_TONEAREST);
+    }
+    ~NearestRounding()
+    {
+        if (saved_ != FE_TONEAREST) std::fesetround(saved_);
+    }
+    NearestRounding(const NearestRounding&) = delete;
+    NearestRounding& operator=(const NearestRounding&) = delete;
+
+private:
+    int saved_;
+};
+
+// With the mode at nearest, adding and taking away 1.5 * 2^52 rounds any |v| < 2^51 to the
+// nearest integer with ties to even, in two plain operations.
+inline double nearestEven(double v)
+{
+    constexpr double kShift = 6755399441055744.0;
+    return (v + kShift) - kShift;
+}
+
 template <class D> inline D scaleCValue(double v)
 {
-    if constexpr (std::is_same_v<D, Pxl64f>) return v;
-    else if constexpr (std::is_same_v<D, Pxl32f>) return static_cast<Pxl32f>(v > FLT_MAX ? FLT_MAX : v < -FLT_MAX ? -FLT_MAX : v);
-    else return roundToInt<D, kNearestEven>(v);
+    if constexpr (std::is_same_v<D, Pxl64f>) {
+        return v;
+    } else if constexpr (std::is_same_v<D, Pxl32f>) {
+        return static_cast<Pxl32f>(v > FLT_MAX ? FLT_MAX : v < -FLT_MAX ? -FLT_MAX : v);
+    } else {
+        using L = std::numeric_limits<D>;
+        v = v == v ? v : 0.0;
+        v = v > double(L::min()) ? v : double(L::min());
+        v = v < double(L::max()) ? v : double(L::max());
+        using I = std::conditional_t<(sizeof(D) < 4), int32_t, int64_t>;
+        return static_cast<D>(static_cast<I>(nearestEven(v)));
+    }
 }
 
 constexpr double kUnitTolerance = 2.220446049250313e-16;
@@ -268,8 +304,9 @@ PxlStatus scaleC(const S* pSrc, int srcStep, Pxl64f mVal, Pxl64f aVal, D* pDst, 
             return copy<uint8_t, C1>(reinterpret_cast<const uint8_t*>(pSrc), srcStep, reinterpret_cast<uint8_t*>(pDst), dstStep, bytes);
         }
     }
+    const NearestRounding nearest;
     return checkedConvert<S, D, C1, true>(pSrc, srcStep, pDst, dstStep, roi,
-                                                      [mVal, aVal](S x) { return scaleCValue<D>(double(x) * mVal + aVal); });
+                                          [mVal, aVal](S x) { return scaleCValue<D>(double(x) * mVal + aVal); });
 }
 
 template <class T>

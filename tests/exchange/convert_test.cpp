@@ -4,6 +4,7 @@
 // and the order of checks.
 #include "pxltest.hpp"
 
+#include <cfenv>
 #include <cfloat>
 #include <climits>
 
@@ -406,4 +407,39 @@ TEST(Convert, OrderOfChecks)
     EXPECT_EQ(pxliScaleC_8u_C1R(s8.data(), 0, 1.0, 0.0, s8.data() + 64, 0, {4, 1}, 0), pxlStatusOk);
     EXPECT_EQ(pxliScaleC_8u_C1R(s8.data(), 0, 2.0, 0.0, s8.data() + 64, 0, {4, 1}, 0), pxlStatusBadStep);
     EXPECT_EQ(pxliScaleC_8u16s_C1R(nullptr, 4, 1.0, 0.0, s16.data(), s16.step(), {0, 1}, 0), pxlStatusNullPointer);
+}
+
+// The caller's rounding mode neither changes a result nor is changed by the call.
+TEST(Convert, ResultsDoNotDependOnTheCallersRoundingMode)
+{
+    Rng rng(58);
+    GuardedImage<Pxl32f> src(67, 5);
+    src.fillRandom(rng, 0.3);
+    for (int i = 0; i < 40; ++i) src.at(i, 0) = static_cast<float>(i - 20) * 0.5f;  // ties
+    auto run = [&](std::vector<Pxl8u>& a, std::vector<Pxl16s>& b, std::vector<Pxl8u>& c, std::vector<Pxl32s>& e) {
+        a.assign(67 * 5, 0);
+        b.assign(67 * 5, 0);
+        c.assign(67 * 5, 0);
+        e.assign(67 * 5, 0);
+        for (int code : {0, 1, 2}) {
+            ASSERT_EQ(pxliConvert_32f8u_C1R(src.data(), src.step(), a.data(), 67, {67, 5}, code), pxlStatusOk);
+            ASSERT_EQ(pxliConvert_32f16s_C1RSfs(src.data(), src.step(), b.data(), 134, {67, 5}, code, -2), pxlStatusOk);
+        }
+        ASSERT_EQ(pxliScaleC_32f8u_C1R(src.data(), src.step(), 0.5, 100.25, c.data(), 67, {67, 5}, 0), pxlStatusOk);
+        ASSERT_EQ(pxliScaleC_32f32s_C1R(src.data(), src.step(), 3.0, 0.5, e.data(), 268, {67, 5}, 0), pxlStatusOk);
+    };
+    std::vector<Pxl8u> a0, c0, a1, c1;
+    std::vector<Pxl16s> b0, b1;
+    std::vector<Pxl32s> e0, e1;
+    run(a0, b0, c0, e0);
+    for (int mode : {FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+        ASSERT_EQ(std::fesetround(mode), 0);
+        run(a1, b1, c1, e1);
+        EXPECT_EQ(std::fegetround(), mode);
+        std::fesetround(FE_TONEAREST);
+        EXPECT_EQ(a1, a0);
+        EXPECT_EQ(b1, b0);
+        EXPECT_EQ(c1, c0);
+        EXPECT_EQ(e1, e0);
+    }
 }
