@@ -43,7 +43,7 @@ template <class W> struct ScaleDown {
     W operator()(W s) const { return static_cast<W>((s + bias + ((s >> f) & 1)) >> f); }
 };
 
-// Multiplies by 2^k, for k small enough that the widest s times 2^k still fits W.
+// Multiplies by 2^k (k at most 15), for s already saturated to a 16-bit type.
 template <class W> struct ScaleUp {
     W factor;
     explicit ScaleUp(int k) : factor(static_cast<W>(W(1) << k)) {}
@@ -61,30 +61,36 @@ template <class W> struct ScaleSign {
 };
 
 // Where each variant starts for an operation whose exact results have at most `bits` bits of
-// magnitude (9 for an 8u sum, 8 for an 8u difference, 17 and 16 for 16u, 16 for 16s):
-// f above `bits` rounds every s to 0, and f below `1 - destinationBits` saturates every non-zero s.
-enum class ScaleKind { None, Down, Up, Sign, Zero };
+// magnitude (9 for an 8u sum, 16 for an 8u product, ...): f above `bits` rounds every s to 0,
+// f below -upLimit saturates every non-zero s, and f above `wideAbove` needs 64 bits for the
+// rounding term.
+enum class ScaleKind { None, Down, DownWide, Up, Sign, Zero };
 struct ScalePlan {
     ScaleKind kind;
     int shift;
 };
-inline ScalePlan planScale(int f, int bits, int upLimit)
+inline ScalePlan planScale(int f, int bits, int upLimit, int wideAbove)
 {
     if (f == 0) return {ScaleKind::None, 0};
     if (f > bits) return {ScaleKind::Zero, 0};
+    if (f > wideAbove) return {ScaleKind::DownWide, f};
     if (f > 0) return {ScaleKind::Down, f};
     if (f < -upLimit) return {ScaleKind::Sign, 0};
     return {ScaleKind::Up, -f};
 }
 
-// Calls body(scaler) with the function object of the plan; the Zero plan is the caller's.
-template <class W, class Body> inline void withScaler(const ScalePlan& plan, Body&& body)
+// Calls body(finish) with the function that turns an exact result s (in W) into a sample of T
+// by the plan: scaled, rounded and saturated. A left shift first saturates s to T, which changes
+// no result and keeps the shift inside 32 bits. The Zero plan is the caller's.
+template <class T, class W, class Body> inline void withSfsFinish(const ScalePlan& plan, Body&& body)
 {
+    using W64 = std::conditional_t<std::is_signed_v<W>, int64_t, uint64_t>;
     switch (plan.kind) {
-    case ScaleKind::None: body(NoScale<W>{}); break;
-    case ScaleKind::Down: body(ScaleDown<W>(plan.shift)); break;
-    case ScaleKind::Up: body(ScaleUp<W>(plan.shift)); break;
-    case ScaleKind::Sign: body(ScaleSign<W>{}); break;
+    case ScaleKind::None: body([](W s) { return saturate<T>(s); }); break;
+    case ScaleKind::Down: body([down = ScaleDown<W>(plan.shift)](W s) { return saturate<T>(down(s)); }); break;
+    case ScaleKind::DownWide: body([down = ScaleDown<W64>(plan.shift)](W s) { return saturate<T>(down(W64(s))); }); break;
+    case ScaleKind::Up: body([up = ScaleUp<W>(plan.shift)](W s) { return saturate<T>(up(W(saturate<T>(s)))); }); break;
+    case ScaleKind::Sign: body([](W s) { return saturate<T>(ScaleSign<W>{}(s)); }); break;
     case ScaleKind::Zero: break;
     }
 }
