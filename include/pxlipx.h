@@ -9,6 +9,7 @@
 #include "pxlipx/types.h"
 #include "pxlipx/frame.h"
 #include "pxlipx/arithmetic.h"
+#include "pxlipx/muldiv.h"
 #include "pxlipx/exchange.h"
 #include "pxlipx/convert.h"
 
