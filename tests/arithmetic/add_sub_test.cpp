@@ -11,26 +11,7 @@ using namespace pxltest;
 
 namespace {
 
-// The rule, from its statement: s scaled by 2^-f, rounded to nearest with ties to even, then
-// saturated.
-template <class T> T scaleReference(int64_t s, int f)
-{
-    int64_t r;
-    if (f >= 0) {
-        if (f >= 62) {
-            r = 0;  // |s| < 2^18
-        } else {
-            const int64_t unit = int64_t{1} << f;
-            int64_t q = s >= 0 ? s / unit : -((-s + unit - 1) / unit);  // floor
-            const int64_t rem = s - q * unit;                              // 0 <= rem < unit
-            if (2 * rem > unit || (2 * rem == unit && (q & 1))) ++q;
-            r = q;
-        }
-    } else {
-        r = f <= -40 ? (s > 0 ? INT64_MAX / 2 : s < 0 ? INT64_MIN / 2 : 0) : s * (int64_t{1} << -f);
-    }
-    return static_cast<T>(std::clamp<int64_t>(r, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
-}
+template <class T> T scaleReference(int64_t s, int f) { return sfsReference<T>(s, f); }
 
 enum Op { kAdd, kSub, kAddC, kSubC };
 const char* const kOpName[] = {"Add", "Sub", "AddC", "SubC"};

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -152,6 +153,27 @@ public:
 private:
     int width_, channels_;
 };
+
+// The scale-factor rule, from its statement: an exact result s scaled by 2^-f, rounded to
+// nearest with ties to even, then saturated to T; any f.
+template <class T> T sfsReference(int64_t s, int f)
+{
+    int64_t r;
+    if (f >= 0) {
+        if (f >= 62) {
+            r = 0;  // |s| < 2^40 in every family
+        } else {
+            const int64_t unit = int64_t{1} << f;
+            int64_t q = s >= 0 ? s / unit : -((-s + unit - 1) / unit);  // floor
+            const int64_t rem = s - q * unit;                              // 0 <= rem < unit
+            if (2 * rem > unit || (2 * rem == unit && (q & 1))) ++q;
+            r = q;
+        }
+    } else {
+        r = f <= -24 ? (s > 0 ? INT64_MAX / 2 : s < 0 ? INT64_MIN / 2 : 0) : s * (int64_t{1} << -f);
+    }
+    return static_cast<T>(std::clamp<int64_t>(r, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+}
 
 // Two samples are the same bit for bit (so NaN equals the same NaN, and 0 differs from -0).
 template <class T> bool sameBits(T a, T b) { return std::memcmp(&a, &b, sizeof(T)) == 0; }
