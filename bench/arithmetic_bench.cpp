@@ -6,13 +6,15 @@ namespace {
 
 constexpr int W = 1920, H = 1080;
 
+enum class Peer { Add, Sub, Mul, Div };
+
 template <class T, class Ours>
-void op(const std::string& name, int channels, [[maybe_unused]] int cvType, bool add, Ours ours)
+void op(const std::string& name, int channels, [[maybe_unused]] int cvType, Peer peer, Ours ours)
 {
     const int pb = channels * static_cast<int>(sizeof(T));
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, pb), b(W, H, pb), d(W, H, pb);
-        if constexpr (std::is_same_v<T, Pxl32f>) { a.fillFloats(-50.0f, 300.0f); b.fillFloats(0.0f, 1.0f); }
+        if constexpr (std::is_same_v<T, Pxl32f>) { a.fillFloats(0.5f, 300.0f); b.fillFloats(-1.0f, 1.0f); }
         for (auto _ : s) {
             benchmark::DoNotOptimize(ours(a.as<T>(), a.step, b.as<T>(), b.step, d.as<T>(), d.step, PxliSize{W, H}));
             benchmark::ClobberMemory();
@@ -23,16 +25,20 @@ void op(const std::string& name, int channels, [[maybe_unused]] int cvType, bool
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, pb), b(W, H, pb), d(W, H, pb);
-        if constexpr (std::is_same_v<T, Pxl32f>) { a.fillFloats(-50.0f, 300.0f); b.fillFloats(0.0f, 1.0f); }
+        if constexpr (std::is_same_v<T, Pxl32f>) { a.fillFloats(0.5f, 300.0f); b.fillFloats(-1.0f, 1.0f); }
         cv::Mat ma = a.mat(cvType), mb = b.mat(cvType), md = d.mat(cvType);
         for (auto _ : s) {
-            if (add) cv::add(ma, mb, md);
-            else cv::subtract(mb, ma, md);
+            switch (peer) {
+            case Peer::Add: cv::add(ma, mb, md); break;
+            case Peer::Sub: cv::subtract(mb, ma, md); break;
+            case Peer::Mul: cv::multiply(ma, mb, md); break;
+            case Peer::Div: cv::divide(mb, ma, md); break;
+            }
             benchmark::ClobberMemory();
         }
     });
 #else
-    (void)add;
+    (void)peer;
 #endif
 }
 
@@ -50,9 +56,9 @@ void op(const std::string& name, int channels, [[maybe_unused]] int cvType, bool
 void arithmeticBenchmarks()
 {
     const std::string sz = "/1920x1080";
-    op<Pxl8u>("Add 8u C1" + sz, 1, CV_8UC1, true, PXLB_SFS(pxliAdd_8u_C1RSfs));
-    op<Pxl8u>("Add 8u C3" + sz, 3, CV_8UC3, true, PXLB_SFS(pxliAdd_8u_C3RSfs));
-    op<Pxl8u>("Sub 8u C1" + sz, 1, CV_8UC1, false, PXLB_SFS(pxliSub_8u_C1RSfs));
+    op<Pxl8u>("Add 8u C1" + sz, 1, CV_8UC1, Peer::Add, PXLB_SFS(pxliAdd_8u_C1RSfs));
+    op<Pxl8u>("Add 8u C3" + sz, 3, CV_8UC3, Peer::Add, PXLB_SFS(pxliAdd_8u_C3RSfs));
+    op<Pxl8u>("Sub 8u C1" + sz, 1, CV_8UC1, Peer::Sub, PXLB_SFS(pxliSub_8u_C1RSfs));
     // With a scale (no peer has one): the exact rounding costs over the plain saturating sum.
     pxlbench::add("Add 8u C1 f=1" + sz, "pxl", [](benchmark::State& s) {
         pxlbench::Image a(W, H, 1), b(W, H, 1), d(W, H, 1);
@@ -62,12 +68,18 @@ void arithmeticBenchmarks()
         pxlbench::Image a(W, H, 2), b(W, H, 2), d(W, H, 2);
         for (auto _ : s) benchmark::DoNotOptimize(pxliAdd_16s_C1RSfs(a.as<Pxl16s>(), a.step, b.as<Pxl16s>(), b.step, d.as<Pxl16s>(), d.step, {W, H}, -3));
     });
-    op<Pxl16s>("Add 16s C1" + sz, 1, CV_16SC1, true, PXLB_SFS(pxliAdd_16s_C1RSfs));
-    op<Pxl16s>("Add 16s C3" + sz, 3, CV_16SC3, true, PXLB_SFS(pxliAdd_16s_C3RSfs));
-    op<Pxl16s>("Sub 16s C1" + sz, 1, CV_16SC1, false, PXLB_SFS(pxliSub_16s_C1RSfs));
-    op<Pxl32f>("Add 32f C1" + sz, 1, CV_32FC1, true, PXLB_F(pxliAdd_32f_C1R));
-    op<Pxl32f>("Add 32f C3" + sz, 3, CV_32FC3, true, PXLB_F(pxliAdd_32f_C3R));
-    op<Pxl32f>("Sub 32f C1" + sz, 1, CV_32FC1, false, PXLB_F(pxliSub_32f_C1R));
+    op<Pxl16s>("Add 16s C1" + sz, 1, CV_16SC1, Peer::Add, PXLB_SFS(pxliAdd_16s_C1RSfs));
+    op<Pxl16s>("Add 16s C3" + sz, 3, CV_16SC3, Peer::Add, PXLB_SFS(pxliAdd_16s_C3RSfs));
+    op<Pxl16s>("Sub 16s C1" + sz, 1, CV_16SC1, Peer::Sub, PXLB_SFS(pxliSub_16s_C1RSfs));
+    op<Pxl32f>("Add 32f C1" + sz, 1, CV_32FC1, Peer::Add, PXLB_F(pxliAdd_32f_C1R));
+    op<Pxl32f>("Add 32f C3" + sz, 3, CV_32FC3, Peer::Add, PXLB_F(pxliAdd_32f_C3R));
+    op<Pxl32f>("Sub 32f C1" + sz, 1, CV_32FC1, Peer::Sub, PXLB_F(pxliSub_32f_C1R));
+    op<Pxl8u>("Mul 8u C1" + sz, 1, CV_8UC1, Peer::Mul, PXLB_SFS(pxliMul_8u_C1RSfs));
+    op<Pxl16s>("Mul 16s C1" + sz, 1, CV_16SC1, Peer::Mul, PXLB_SFS(pxliMul_16s_C1RSfs));
+    op<Pxl32f>("Mul 32f C1" + sz, 1, CV_32FC1, Peer::Mul, PXLB_F(pxliMul_32f_C1R));
+    op<Pxl8u>("Div 8u C1" + sz, 1, CV_8UC1, Peer::Div, PXLB_SFS(pxliDiv_8u_C1RSfs));
+    op<Pxl16s>("Div 16s C1" + sz, 1, CV_16SC1, Peer::Div, PXLB_SFS(pxliDiv_16s_C1RSfs));
+    op<Pxl32f>("Div 32f C1" + sz, 1, CV_32FC1, Peer::Div, PXLB_F(pxliDiv_32f_C1R));
 }
 
 const pxlbench::Registrar registrar(arithmeticBenchmarks);

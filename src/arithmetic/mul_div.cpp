@@ -5,6 +5,7 @@
 #include "exchange/rounding.hpp"
 #include "frame/bind.hpp"
 
+#include <cfenv>
 #include <cmath>
 
 namespace pxl::arith {
@@ -184,11 +185,75 @@ PxlStatus checkDivision(const T* a, int as, const T* b, int bs, const T* d, int 
 
 // ---- Div, Div_Round ------------------------------------------------------------------------------
 
+namespace {
+// The rounding mode set to nearest for the length of a call, and the caller's restored after.
+class NearestRounding {
+public:
+    NearestRounding() : saved_(std::fegetround())
+    {
+        if (saved_ != FE_TONEAREST) std::fesetround(FE_TONEAREST);
+    }
+    ~NearestRounding()
+    {
+        if (saved_ != FE_TONEAREST) std::fesetround(saved_);
+    }
+    NearestRounding(const NearestRounding&) = delete;
+    NearestRounding& operator=(const NearestRounding&) = delete;
+
+private:
+    int saved_;
+};
+
+// Rows of quotients with no test but selects, so that they vectorise; zero divisors are counted
+// on the way. With the mode held at nearest, nearbyint rounds ties to even. 8u works in float,
+// which is exact enough here: every numerator below 2^23 is exact, a quotient below 256 is within
+// 2^-16 of the true one while a non-tie lies at least 1/510 from a half, and anything larger
+// saturates. 16s needs double for the same argument.
+template <class T> struct FastQuotientRow {
+    static constexpr bool kAvailable = std::is_same_v<T, Pxl8u> || std::is_same_v<T, Pxl16s> || std::is_same_v<T, Pxl32f>;
+    static int run(const T* a, const T* b, T* d, int n, int f)
+    {
+        int zeros = 0;
+        if constexpr (std::is_same_v<T, Pxl32f>) {
+            const float inf = std::numeric_limits<float>::infinity(), nan = std::bit_cast<float>(0xFFC00000u);
+            for (int i = 0; i < n; ++i) {
+                const float x = a[i], y = b[i];
+                const float special = y > 0.0f ? inf : y < 0.0f ? -inf : nan;
+                d[i] = x == 0.0f ? special : y / x;
+                zeros |= x == 0.0f;
+            }
+        } else {
+            using F = std::conditional_t<std::is_same_v<T, Pxl8u>, float, double>;
+            using L = std::numeric_limits<T>;
+            const F m = std::ldexp(F(1), -std::clamp(f, -40, 40));
+            const F lo = F(L::min()), hi = F(L::max());
+            for (int i = 0; i < n; ++i) {
+                const F x = F(a[i]), y = F(b[i]);
+                F q = std::nearbyint(y * m / (x == F(0) ? F(1) : x));
+                q = q < lo ? lo : q > hi ? hi : q;
+                const F special = y > F(0) ? hi : y < F(0) ? lo : F(0);
+                d[i] = static_cast<T>(static_cast<int32_t>(x == F(0) ? special : q));
+                zeros |= x == F(0);
+            }
+        }
+        return zeros;
+    }
+};
+}  // namespace
+
 template <class T, class L>
 PxlStatus divide(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, PxliSize roi, int f)
 {
     if (const PxlStatus st = checkDivision<T, L, false>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi); st != pxlStatusOk)
         return st;
+    if constexpr (FastQuotientRow<T>::kAvailable && !L::hasAlpha) {
+        const NearestRounding nearest;
+        int zeros = 0;
+        for (int y = 0; y < roi.height; ++y)
+            zeros |= FastQuotientRow<T>::run(rowAt(pSrc1, src1Step, y), rowAt(pSrc2, src2Step, y), rowAt(pDst, dstStep, y),
+                                             roi.width * L::mem, f);
+        return divStatus(zeros != 0);
+    }
     bool zero = false;
     withQuotient<T>(f, 1, false, [&](auto quotient) {
         pairRows<T, L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi, [&](T a, T b) { return quotient(a, b, zero); });
