@@ -167,6 +167,30 @@ void convertDemo(Context& ctx)
     pxliFree(f);
 }
 
+// Multiply and divide: the image times its mirror as fractions of full scale, the image divided
+// by its mirror (scaled up by 2^5), and brightened by a double constant.
+void mulDivDemo(Context& ctx)
+{
+    const Image& src = ctx.rgb;
+    const PxliSize roi = src.size();
+    Image mirrored(src.width, src.height, 3), out(src.width, src.height, 3);
+    pxliMirror_8u_C3R(src.data, src.step, mirrored.data, mirrored.step, roi, pxlAxisVertical);
+    pxliMulScale_8u_C3R(src.data, src.step, mirrored.data, mirrored.step, out.data, out.step, roi);
+    ctx.save("mulscale_mirror", out);
+    pxliDiv_8u_C3RSfs(mirrored.data, mirrored.step, src.data, src.step, out.data, out.step, roi, -5);
+    ctx.save("div_by_mirror", out);
+    static const Pxl64f gain[3] = {1.3, 0.9, 0.6};
+    pxliMulC64f_8u_C3R(src.data, src.step, gain, out.data, out.step, roi, 0, pxlRoundNearestEven);
+    ctx.save("mulc64f_warm", out);
+
+    const std::string size = std::to_string(src.width) + "x" + std::to_string(src.height);
+    const double px = static_cast<double>(src.width) * src.height;
+    ctx.time("pxliMul_8u_C3RSfs (f=8)", size, px,
+             [&] { pxliMul_8u_C3RSfs(src.data, src.step, mirrored.data, mirrored.step, out.data, out.step, roi, 8); });
+    ctx.time("pxliDiv_8u_C3RSfs (f=-5)", size, px,
+             [&] { pxliDiv_8u_C3RSfs(mirrored.data, mirrored.step, src.data, src.step, out.data, out.step, roi, -5); });
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -176,6 +200,7 @@ const std::vector<Entry>& entries()
         {"exchange", exchangeDemo},
         {"arithmetic", arithmeticDemo},
         {"convert", convertDemo},
+        {"muldiv", mulDivDemo},
     };
     return all;
 }
