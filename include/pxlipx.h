@@ -12,5 +12,6 @@
 #include "pxlipx/muldiv.h"
 #include "pxlipx/exchange.h"
 #include "pxlipx/convert.h"
+#include "pxlipx/threshold.h"
 
 #endif

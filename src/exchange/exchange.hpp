@@ -59,4 +59,53 @@ PxlStatus scaleC(const S* pSrc, int srcStep, Pxl64f mVal, Pxl64f aVal, D* pDst, 
 template <class T>
 PxlStatus scaleCInPlace(Pxl64f mVal, Pxl64f aVal, T* pSrcDst, int step, PxliSize roi, PxlHint hint);
 
+// Thresholds: Above is the GT side; the Both forms take lower then upper thresholds and values.
+template <class T> PxlStatus thresholdValue(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, T threshold, PxlCmpOp cmp);
+template <class T> PxlStatus thresholdValueInPlace(T* p, int step, PxliSize roi, T threshold, PxlCmpOp cmp);
+template <class T, class L>
+PxlStatus thresholdArray(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, const T* threshold, PxlCmpOp cmp);
+template <class T, class L> PxlStatus thresholdArrayInPlace(T* p, int step, PxliSize roi, const T* threshold, PxlCmpOp cmp);
+template <class T>
+PxlStatus thresholdValValue(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, T threshold, T value, PxlCmpOp cmp);
+template <class T> PxlStatus thresholdValValueInPlace(T* p, int step, PxliSize roi, T threshold, T value, PxlCmpOp cmp);
+template <class T, class L>
+PxlStatus thresholdValArray(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, const T* threshold, const T* value,
+                            PxlCmpOp cmp);
+template <class T, class L>
+PxlStatus thresholdValArrayInPlace(T* p, int step, PxliSize roi, const T* threshold, const T* value, PxlCmpOp cmp);
+template <class T, bool Above>
+PxlStatus thresholdSideValue(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, T threshold);
+template <class T, bool Above> PxlStatus thresholdSideValueInPlace(T* p, int step, PxliSize roi, T threshold);
+template <class T, class L, bool Above>
+PxlStatus thresholdSideArray(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, const T* threshold);
+template <class T, class L, bool Above> PxlStatus thresholdSideArrayInPlace(T* p, int step, PxliSize roi, const T* threshold);
+template <class T, bool Above>
+PxlStatus thresholdSideValValue(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, T threshold, T value);
+template <class T, bool Above> PxlStatus thresholdSideValValueInPlace(T* p, int step, PxliSize roi, T threshold, T value);
+template <class T, class L, bool Above>
+PxlStatus thresholdSideValArray(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, const T* threshold, const T* value);
+template <class T, class L, bool Above>
+PxlStatus thresholdSideValArrayInPlace(T* p, int step, PxliSize roi, const T* threshold, const T* value);
+template <class T>
+PxlStatus thresholdBothValue(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, T lowT, T lowV, T highT, T highV);
+template <class T> PxlStatus thresholdBothValueInPlace(T* p, int step, PxliSize roi, T lowT, T lowV, T highT, T highV);
+template <class T, class L>
+PxlStatus thresholdBothArray(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, const T* lowT, const T* lowV,
+                             const T* highT, const T* highV);
+template <class T, class L>
+PxlStatus thresholdBothArrayInPlace(T* p, int step, PxliSize roi, const T* lowT, const T* lowV, const T* highT, const T* highV);
+
+// Comparisons into one 8u channel.
+template <class T, class L>
+PxlStatus compare(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, Pxl8u* pDst, int dstStep, PxliSize roi, PxlCmpOp cmp);
+template <class T, class L>
+PxlStatus compareArray(const T* pSrc, int srcStep, const T* value, Pxl8u* pDst, int dstStep, PxliSize roi, PxlCmpOp cmp);
+template <class T> PxlStatus compareValue(const T* pSrc, int srcStep, T value, Pxl8u* pDst, int dstStep, PxliSize roi, PxlCmpOp cmp);
+template <class L>
+PxlStatus compareEqualEps(const Pxl32f* pSrc1, int src1Step, const Pxl32f* pSrc2, int src2Step, Pxl8u* pDst, int dstStep,
+                          PxliSize roi, Pxl32f eps);
+template <class L>
+PxlStatus compareEqualEpsArray(const Pxl32f* pSrc, int srcStep, const Pxl32f* value, Pxl8u* pDst, int dstStep, PxliSize roi, Pxl32f eps);
+PxlStatus compareEqualEpsValue(const Pxl32f* pSrc, int srcStep, Pxl32f value, Pxl8u* pDst, int dstStep, PxliSize roi, Pxl32f eps);
+
 }  // namespace pxl::exch
