@@ -191,6 +191,30 @@ void mulDivDemo(Context& ctx)
              [&] { pxliDiv_8u_C3RSfs(mirrored.data, mirrored.step, src.data, src.step, out.data, out.step, roi, -5); });
 }
 
+// Thresholds and comparisons: the gray image clipped above 128, posterised in three levels, and
+// the mask of where the image is brighter than its mirror image.
+void thresholdDemo(Context& ctx)
+{
+    const Image& gray = ctx.gray;
+    const PxliSize roi = gray.size();
+    Image out(gray.width, gray.height, 1), mirrored(gray.width, gray.height, 1);
+    pxliThreshold_GT_8u_C1R(gray.data, gray.step, out.data, out.step, roi, 128);
+    ctx.save("threshold_gt_128", out);
+    pxliThreshold_LTValGTVal_8u_C1R(gray.data, gray.step, out.data, out.step, roi, 85, 0, 170, 255);
+    pxliThreshold_LTValGTVal_8u_C1IR(out.data, out.step, roi, 86, 128, 169, 128);
+    ctx.save("threshold_three_levels", out);
+    pxliMirror_8u_C1R(gray.data, gray.step, mirrored.data, mirrored.step, roi, pxlAxisVertical);
+    pxliCompare_8u_C1R(gray.data, gray.step, mirrored.data, mirrored.step, out.data, out.step, roi, pxlCmpGreater);
+    ctx.save("compare_greater_than_mirror", out);
+
+    const std::string size = std::to_string(roi.width) + "x" + std::to_string(roi.height);
+    const double px = static_cast<double>(roi.width) * roi.height;
+    ctx.time("pxliThreshold_GT_8u_C1R", size, px, [&] { pxliThreshold_GT_8u_C1R(gray.data, gray.step, out.data, out.step, roi, 128); });
+    ctx.time("pxliCompare_8u_C1R", size, px, [&] {
+        pxliCompare_8u_C1R(gray.data, gray.step, mirrored.data, mirrored.step, out.data, out.step, roi, pxlCmpGreater);
+    });
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -201,6 +225,7 @@ const std::vector<Entry>& entries()
         {"arithmetic", arithmeticDemo},
         {"convert", convertDemo},
         {"muldiv", mulDivDemo},
+        {"threshold", thresholdDemo},
     };
     return all;
 }

@@ -1,0 +1,92 @@
+// Threshold (GT: x above t becomes t) and compare (less) on a 1920x1080 frame, against OpenCV's
+// threshold with THRESH_TRUNC and compare with CMP_LT, and a memcpy of the bytes moved.
+#include "bench.hpp"
+
+#ifdef PXL_BENCH_OPENCV
+#include <opencv2/imgproc.hpp>
+#endif
+
+namespace {
+
+constexpr int W = 1920, H = 1080;
+
+template <class T> void prepare(pxlbench::Image& img)
+{
+    if constexpr (std::is_same_v<T, Pxl32f>) img.fillFloats(0.0f, 255.0f);
+}
+
+template <class T, class Ours>
+void threshold(const std::string& name, [[maybe_unused]] int cvType, Ours ours)
+{
+    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, sizeof(T)), d(W, H, sizeof(T));
+        prepare<T>(a);
+        for (auto _ : s) {
+            benchmark::DoNotOptimize(ours(a.as<T>(), a.step, d.as<T>(), d.step, PxliSize{W, H}));
+            benchmark::ClobberMemory();
+        }
+    });
+    pxlbench::addMemcpy(name, std::size_t{W} * H * sizeof(T), std::size_t{W} * H * sizeof(T));
+#ifdef PXL_BENCH_OPENCV
+    pxlbench::add(name, "peer", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, sizeof(T)), d(W, H, sizeof(T));
+        prepare<T>(a);
+        cv::Mat ma = a.mat(cvType), md = d.mat(cvType);
+        for (auto _ : s) {
+            cv::threshold(ma, md, 100, 255, cv::THRESH_TRUNC);
+            benchmark::ClobberMemory();
+        }
+    });
+#endif
+}
+
+template <class T, class Ours>
+void compare(const std::string& name, [[maybe_unused]] int cvType, Ours ours)
+{
+    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, sizeof(T)), b(W, H, sizeof(T)), d(W, H, 1);
+        prepare<T>(a);
+        prepare<T>(b);
+        for (auto _ : s) {
+            benchmark::DoNotOptimize(ours(a.as<T>(), a.step, b.as<T>(), b.step, d.as<Pxl8u>(), d.step, PxliSize{W, H}));
+            benchmark::ClobberMemory();
+        }
+    });
+    pxlbench::addMemcpy(name, 2 * std::size_t{W} * H * sizeof(T), std::size_t{W} * H);
+#ifdef PXL_BENCH_OPENCV
+    pxlbench::add(name, "peer", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, sizeof(T)), b(W, H, sizeof(T)), d(W, H, 1);
+        prepare<T>(a);
+        prepare<T>(b);
+        cv::Mat ma = a.mat(cvType), mb = b.mat(cvType), md = d.mat(CV_8UC1);
+        for (auto _ : s) {
+            cv::compare(ma, mb, md, cv::CMP_LT);
+            benchmark::ClobberMemory();
+        }
+    });
+#endif
+}
+
+#ifndef PXL_BENCH_OPENCV
+#define CV_8UC1 0
+#define CV_32FC1 0
+#endif
+
+void thresholdBenchmarks()
+{
+    const std::string sz = "/1920x1080";
+    threshold<Pxl8u>("Threshold GT 8u C1" + sz, CV_8UC1,
+                     [](auto s, int ss, auto d, int ds, PxliSize r) { return pxliThreshold_GT_8u_C1R(s, ss, d, ds, r, 100); });
+    threshold<Pxl32f>("Threshold GT 32f C1" + sz, CV_32FC1,
+                      [](auto s, int ss, auto d, int ds, PxliSize r) { return pxliThreshold_GT_32f_C1R(s, ss, d, ds, r, 100.0f); });
+    compare<Pxl8u>("Compare less 8u C1" + sz, CV_8UC1, [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) {
+        return pxliCompare_8u_C1R(a, as, b, bs, d, ds, r, pxlCmpLess);
+    });
+    compare<Pxl32f>("Compare less 32f C1" + sz, CV_32FC1, [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) {
+        return pxliCompare_32f_C1R(a, as, b, bs, d, ds, r, pxlCmpLess);
+    });
+}
+
+const pxlbench::Registrar registrar(thresholdBenchmarks);
+
+}  // namespace
