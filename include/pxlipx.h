@@ -13,5 +13,6 @@
 #include "pxlipx/exchange.h"
 #include "pxlipx/convert.h"
 #include "pxlipx/threshold.h"
+#include "pxlipx/border.h"
 
 #endif

@@ -108,4 +108,18 @@ template <class L>
 PxlStatus compareEqualEpsArray(const Pxl32f* pSrc, int srcStep, const Pxl32f* value, Pxl8u* pDst, int dstStep, PxliSize roi, Pxl32f eps);
 PxlStatus compareEqualEpsValue(const Pxl32f* pSrc, int srcStep, Pxl32f value, Pxl8u* pDst, int dstStep, PxliSize roi, Pxl32f eps);
 
+// Border extension; Rule is 0 constant, 1 replicate, 2 mirror, 3 wrap, and Sz PxliSize or PxliSizeL.
+template <class S, class L, int Rule, class Sz>
+PxlStatus copyBorder(const S* pSrc, int srcStep, Sz srcRoi, S* pDst, int dstStep, Sz dstRoi, int top, int left);
+template <class S, class L, int Rule, class Sz>
+PxlStatus copyBorderInPlace(S* p, int step, Sz srcRoi, Sz dstRoi, int top, int left);
+template <class T, class Sz>
+PxlStatus copyConstBorderValue(const T* pSrc, int srcStep, Sz srcRoi, T* pDst, int dstStep, Sz dstRoi, int top, int left, T value);
+template <class T, class Sz>
+PxlStatus copyConstBorderValueInPlace(T* p, int step, Sz srcRoi, Sz dstRoi, int top, int left, T value);
+template <class S, class L, class Sz>
+PxlStatus copyConstBorderArray(const S* pSrc, int srcStep, Sz srcRoi, S* pDst, int dstStep, Sz dstRoi, int top, int left, const S* value);
+template <class S, class L, class Sz>
+PxlStatus copyConstBorderArrayInPlace(S* p, int step, Sz srcRoi, Sz dstRoi, int top, int left, const S* value);
+
 }  // namespace pxl::exch

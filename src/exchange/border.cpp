@@ -1,0 +1,161 @@
+// Border extension: a source region copied into a larger frame, with the frame made by one rule.
+// Each interior row gets its left and right parts from its own source row, then each border row
+// above and below is a copy of the complete row its rule points at (or the constant), so the
+// in-place forms, whose source is the frame's interior, read every pixel before it is changed.
+#include "exchange/border.hpp"
+#include "exchange/exchange.hpp"
+#include "exchange/kernels.hpp"
+#include "frame/bind.hpp"
+
+namespace pxl::exch {
+
+namespace {
+
+enum class Rule { Constant, Replicate, Mirror, Wrap };
+
+template <Rule R> inline int sourceIndex(int i, int n)
+{
+    if constexpr (R == Rule::Replicate) return replicateIndex(i, n);
+    else if constexpr (R == Rule::Mirror) return mirrorIndex(i, n);
+    else return wrapIndex(i, n);
+}
+
+template <class S, class L> inline void putPixel(S* d, const S* s)
+{
+    for (int c = 0; c < L::proc; ++c) d[c] = s[c];
+}
+
+// One whole destination row from another (or from a row of the source): AC4 keeps alpha.
+template <class S, class L> inline void copyPixels(const S* s, S* d, int width)
+{
+    if constexpr (L::hasAlpha) krnCopyAC4Row(s, d, width);
+    else krnCopyBytes(s, d, static_cast<std::size_t>(width) * L::mem * sizeof(S));
+}
+
+template <class S, class L> inline void fillPixels(S* d, int width, const S* value)
+{
+    if constexpr (L::hasAlpha) {
+        for (int x = 0; x < width; ++x) putPixel<S, L>(d + 4 * x, value);
+    } else {
+        krnFillPattern(value, L::mem * static_cast<int>(sizeof(S)), reinterpret_cast<char*>(d), 0,
+                       static_cast<std::size_t>(width) * L::mem * sizeof(S), 1);
+    }
+}
+
+struct Geometry {
+    PxliSize src, dst;
+    int top, left;
+};
+
+// The frame's top-left pixel is `frame`; the source region is `src` (inside the frame when
+// inPlace, whose interior is then left alone).
+template <class S, class L, Rule R>
+void makeFrame(const S* src, int srcStep, S* frame, int dstStep, const Geometry& g, const S* value, bool inPlace)
+{
+    constexpr int N = L::mem;
+    const int W = g.src.width, H = g.src.height, right = g.left + W;
+    for (int i = 0; i < H; ++i) {
+        const S* s = rowAt(src, srcStep, i);
+        S* d = rowAt(frame, dstStep, g.top + i);
+        if constexpr (R == Rule::Constant) {
+            fillPixels<S, L>(d, g.left, value);
+            fillPixels<S, L>(d + std::ptrdiff_t{N} * right, g.dst.width - right, value);
+        } else {
+            for (int x = 0; x < g.left; ++x) putPixel<S, L>(d + N * x, s + N * sourceIndex<R>(x - g.left, W));
+            for (int x = right; x < g.dst.width; ++x) putPixel<S, L>(d + std::ptrdiff_t{N} * x, s + N * sourceIndex<R>(x - g.left, W));
+        }
+        if (!inPlace) copyPixels<S, L>(s, d + std::ptrdiff_t{N} * g.left, W);
+    }
+    for (int y = 0; y < g.dst.height; ++y) {
+        if (y >= g.top && y < g.top + H) continue;
+        S* d = rowAt(frame, dstStep, y);
+        if constexpr (R == Rule::Constant) fillPixels<S, L>(d, g.dst.width, value);
+        else copyPixels<S, L>(rowAt(frame, dstStep, g.top + sourceIndex<R>(y - g.top, H)), d, g.dst.width);
+    }
+}
+
+// Sizes: both regions at least 1, borders not negative, the source inside the destination.
+inline bool badGeometry(const Geometry& g)
+{
+    return g.src.width < 1 || g.src.height < 1 || g.dst.width < 1 || g.dst.height < 1 || g.top < 0 || g.left < 0 ||
+           int64_t{g.src.width} + g.left > g.dst.width || int64_t{g.src.height} + g.top > g.dst.height;
+}
+
+template <class Sz> inline PxliSize plain(Sz s) { return {s.width, s.height}; }
+
+// The checks and the run of every form. R forms: equal pointers pass to the in-place form first
+// (Mirror, Replicate) or after the checks (Wrap); then pointers, steps, sizes, and the value of
+// multi-channel constant forms. In-place forms test that value with the image pointer.
+template <class S, class L, Rule R, bool InPlace, bool ValueArray>
+PxlStatus runBorder(const S* pSrc, int srcStep, S* pDst, int dstStep, Geometry g, const S* value)
+{
+    if constexpr (!InPlace && (R == Rule::Mirror || R == Rule::Replicate)) {
+        if (static_cast<const void*>(pSrc) == static_cast<const void*>(pDst))
+            return runBorder<S, L, R, true, ValueArray>(pDst, dstStep, pDst, dstStep, g, value);
+    }
+    if (!pSrc || !pDst) return pxlStatusNullPointer;
+    if constexpr (InPlace && ValueArray) {
+        if (!value) return pxlStatusNullPointer;
+    }
+    if (srcStep < 1 || dstStep < 1) return pxlStatusBadStep;
+    if (badGeometry(g)) return pxlStatusBadSize;
+    if constexpr (!InPlace && ValueArray) {
+        if (!value) return pxlStatusNullPointer;
+    }
+    if constexpr (!InPlace && R == Rule::Wrap) {
+        if (static_cast<const void*>(pSrc) == static_cast<const void*>(pDst))
+            return runBorder<S, L, R, true, ValueArray>(pDst, dstStep, pDst, dstStep, g, value);
+    }
+    S pixel[4] = {};
+    if constexpr (R == Rule::Constant)
+        for (int c = 0; c < L::proc; ++c) pixel[c] = value[c];
+    if constexpr (InPlace) {
+        // The pointer is the source region's top-left pixel; the frame starts above and left of it.
+        S* frame = rowAt(pDst, dstStep, -g.top) - std::ptrdiff_t{L::mem} * g.left;
+        makeFrame<S, L, R>(pDst, dstStep, frame, dstStep, g, pixel, true);
+    } else {
+        makeFrame<S, L, R>(pSrc, srcStep, pDst, dstStep, g, pixel, false);
+    }
+    return pxlStatusOk;
+}
+
+}  // namespace
+
+// The exported shapes; Sz is PxliSize or PxliSizeL, which hold the same 32-bit fields here.
+template <class S, class L, int Rl, class Sz>
+PxlStatus copyBorder(const S* pSrc, int srcStep, Sz srcRoi, S* pDst, int dstStep, Sz dstRoi, int top, int left)
+{
+    return runBorder<S, L, static_cast<Rule>(Rl), false, false>(pSrc, srcStep, pDst, dstStep, {plain(srcRoi), plain(dstRoi), top, left}, nullptr);
+}
+template <class S, class L, int Rl, class Sz>
+PxlStatus copyBorderInPlace(S* p, int step, Sz srcRoi, Sz dstRoi, int top, int left)
+{
+    return runBorder<S, L, static_cast<Rule>(Rl), true, false>(p, step, p, step, {plain(srcRoi), plain(dstRoi), top, left}, nullptr);
+}
+template <class T, class Sz>
+PxlStatus copyConstBorderValue(const T* pSrc, int srcStep, Sz srcRoi, T* pDst, int dstStep, Sz dstRoi, int top, int left, T value)
+{
+    const Bits<T> v = toBits(value);
+    return runBorder<Bits<T>, C1, Rule::Constant, false, false>(asBits(pSrc), srcStep, asBits(pDst), dstStep,
+                                                                {plain(srcRoi), plain(dstRoi), top, left}, &v);
+}
+template <class T, class Sz>
+PxlStatus copyConstBorderValueInPlace(T* p, int step, Sz srcRoi, Sz dstRoi, int top, int left, T value)
+{
+    const Bits<T> v = toBits(value);
+    return runBorder<Bits<T>, C1, Rule::Constant, true, false>(asBits(p), step, asBits(p), step, {plain(srcRoi), plain(dstRoi), top, left}, &v);
+}
+template <class S, class L, class Sz>
+PxlStatus copyConstBorderArray(const S* pSrc, int srcStep, Sz srcRoi, S* pDst, int dstStep, Sz dstRoi, int top, int left, const S* value)
+{
+    return runBorder<S, L, Rule::Constant, false, true>(pSrc, srcStep, pDst, dstStep, {plain(srcRoi), plain(dstRoi), top, left}, value);
+}
+template <class S, class L, class Sz>
+PxlStatus copyConstBorderArrayInPlace(S* p, int step, Sz srcRoi, Sz dstRoi, int top, int left, const S* value)
+{
+    return runBorder<S, L, Rule::Constant, true, true>(p, step, p, step, {plain(srcRoi), plain(dstRoi), top, left}, value);
+}
+
+}  // namespace pxl::exch
+
+#include "inst/exchange/border.inc"
