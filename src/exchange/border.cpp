@@ -60,6 +60,12 @@ void makeFrame(const S* src, int srcStep, S* frame, int dstStep, const Geometry&
         if constexpr (R == Rule::Constant) {
             fillPixels<S, L>(d, g.left, value);
             fillPixels<S, L>(d + std::ptrdiff_t{N} * right, g.dst.width - right, value);
+        } else if constexpr (R == Rule::Replicate) {
+            // The edge pixels themselves, repeated: one fixed source per side.
+            const S* first = s;
+            const S* last = s + std::ptrdiff_t{N} * (W - 1);
+            for (int x = 0; x < g.left; ++x) putPixel<S, L>(d + N * x, first);
+            for (int x = right; x < g.dst.width; ++x) putPixel<S, L>(d + std::ptrdiff_t{N} * x, last);
         } else {
             for (int x = 0; x < g.left; ++x) putPixel<S, L>(d + N * x, s + N * sourceIndex<R>(x - g.left, W));
             for (int x = right; x < g.dst.width; ++x) putPixel<S, L>(d + std::ptrdiff_t{N} * x, s + N * sourceIndex<R>(x - g.left, W));
