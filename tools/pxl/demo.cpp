@@ -214,6 +214,29 @@ void thresholdDemo(Context& ctx)
     });
 }
 
+// Borders: the image framed by 96 pixels made by reflection, by its edge pixels and by a constant.
+void borderDemo(Context& ctx)
+{
+    const Image& src = ctx.rgb;
+    constexpr int b = 96;
+    const PxliSize dst{src.width + 2 * b, src.height + 2 * b};
+    Image out(dst.width, dst.height, 3);
+    pxliCopyMirrorBorder_8u_C3R(src.data, src.step, src.size(), out.data, out.step, dst, b, b);
+    ctx.save("border_mirror", out);
+    pxliCopyReplicateBorder_8u_C3R(src.data, src.step, src.size(), out.data, out.step, dst, b, b);
+    ctx.save("border_replicate", out);
+    static const Pxl8u navy[3] = {20, 30, 90};
+    pxliCopyConstBorder_8u_C3R(src.data, src.step, src.size(), out.data, out.step, dst, b, b, navy);
+    ctx.save("border_constant", out);
+
+    const std::string size = std::to_string(src.width) + "x" + std::to_string(src.height) + "+96";
+    const double px = static_cast<double>(dst.width) * dst.height;
+    ctx.time("pxliCopyMirrorBorder_8u_C3R", size, px,
+             [&] { pxliCopyMirrorBorder_8u_C3R(src.data, src.step, src.size(), out.data, out.step, dst, b, b); });
+    ctx.time("pxliCopyReplicateBorder_8u_C3R", size, px,
+             [&] { pxliCopyReplicateBorder_8u_C3R(src.data, src.step, src.size(), out.data, out.step, dst, b, b); });
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -225,6 +248,7 @@ const std::vector<Entry>& entries()
         {"convert", convertDemo},
         {"muldiv", mulDivDemo},
         {"threshold", thresholdDemo},
+        {"border", borderDemo},
     };
     return all;
 }
