@@ -10,9 +10,11 @@
 #include "pxlipx/frame.h"
 #include "pxlipx/arithmetic.h"
 #include "pxlipx/muldiv.h"
+#include "pxlipx/logic.h"
 #include "pxlipx/exchange.h"
 #include "pxlipx/convert.h"
 #include "pxlipx/threshold.h"
 #include "pxlipx/border.h"
+#include "pxlipx/synthetic.h"
 
 #endif

@@ -8,6 +8,9 @@ namespace pxl::arith {
 struct AddOp;
 struct SubOp;
 struct MulOp;
+struct AndOp;
+struct OrOp;
+struct XorOp;
 
 // Add and subtract: T is the sample type, Op AddOp or SubOp, L the layout.
 template <class T, class Op, class L>
@@ -72,5 +75,23 @@ template <class T, class L>
 PxlStatus mulC64f(const T* pSrc, int srcStep, const Pxl64f* value, T* pDst, int dstStep, PxliSize roi, PxlHint hint, PxlRoundMode code);
 template <class T, class L>
 PxlStatus mulC64fInPlace(T* pSrcDst, int srcDstStep, const Pxl64f* value, PxliSize roi, PxlHint hint, PxlRoundMode code);
+
+// Logic and shifts.
+template <class T, class Op, class L>
+PxlStatus logicImages(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, PxliSize roi);
+template <class T, class Op, class L>
+PxlStatus logicImagesInPlace(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep, PxliSize roi);
+template <class T, class Op, class L>
+PxlStatus logicConstant(const T* pSrc, int srcStep, const T* value, T* pDst, int dstStep, PxliSize roi);
+template <class T, class Op> PxlStatus logicValue(const T* pSrc, int srcStep, T value, T* pDst, int dstStep, PxliSize roi);
+template <class T, class Op> PxlStatus logicValueInPlace(T value, T* pSrcDst, int srcDstStep, PxliSize roi);
+template <class T, class Op, class L> PxlStatus logicArrayInPlace(const T* value, T* pSrcDst, int srcDstStep, PxliSize roi);
+template <class L> PxlStatus notImage(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roi);
+template <class L> PxlStatus notImageInPlace(Pxl8u* pSrcDst, int srcDstStep, PxliSize roi);
+template <class T, class L, bool Left>
+PxlStatus shiftArray(const T* pSrc, int srcStep, const Pxl32u* count, T* pDst, int dstStep, PxliSize roi);
+template <class T, bool Left> PxlStatus shiftValue(const T* pSrc, int srcStep, Pxl32u count, T* pDst, int dstStep, PxliSize roi);
+template <class T, bool Left> PxlStatus shiftValueInPlace(Pxl32u count, T* pSrcDst, int srcDstStep, PxliSize roi);
+template <class T, class L, bool Left> PxlStatus shiftArrayInPlace(const Pxl32u* count, T* pSrcDst, int srcDstStep, PxliSize roi);
 
 }  // namespace pxl::arith

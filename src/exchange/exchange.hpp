@@ -122,4 +122,10 @@ PxlStatus copyConstBorderArray(const S* pSrc, int srcStep, Sz srcRoi, S* pDst, i
 template <class S, class L, class Sz>
 PxlStatus copyConstBorderArrayInPlace(S* p, int step, Sz srcRoi, Sz dstRoi, int top, int left, const S* value);
 
+// Noise and synthetic images.
+template <class T, class L> PxlStatus addRandUniform(T* pSrcDst, int step, PxliSize roi, T low, T high, Pxl32u* pSeed);
+template <class T, class L> PxlStatus addRandGauss(T* pSrcDst, int step, PxliSize roi, Pxl32f mean, Pxl32f stdDev, Pxl32u* pSeed);
+template <class T, class L> PxlStatus imageJaehne(T* pDst, int step, PxliSize roi);
+template <class T, class L> PxlStatus imageRamp(T* pDst, int step, PxliSize roi, Pxl32f offset, Pxl32f slope, PxlAxis axis);
+
 }  // namespace pxl::exch
