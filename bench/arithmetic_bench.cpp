@@ -6,7 +6,7 @@ namespace {
 
 constexpr int W = 1920, H = 1080;
 
-enum class Peer { Add, Sub, Mul, Div };
+enum class Peer { Add, Sub, Mul, Div, And, Or, Xor };
 
 template <class T, class Ours>
 void op(const std::string& name, int channels, [[maybe_unused]] int cvType, Peer peer, Ours ours)
@@ -33,6 +33,9 @@ void op(const std::string& name, int channels, [[maybe_unused]] int cvType, Peer
             case Peer::Sub: cv::subtract(mb, ma, md); break;
             case Peer::Mul: cv::multiply(ma, mb, md); break;
             case Peer::Div: cv::divide(mb, ma, md); break;
+            case Peer::And: cv::bitwise_and(ma, mb, md); break;
+            case Peer::Or: cv::bitwise_or(ma, mb, md); break;
+            case Peer::Xor: cv::bitwise_xor(ma, mb, md); break;
             }
             benchmark::ClobberMemory();
         }
@@ -51,6 +54,8 @@ void op(const std::string& name, int channels, [[maybe_unused]] int cvType, Peer
 #define CV_16SC3 0
 #define CV_32FC1 0
 #define CV_32FC3 0
+#define CV_16UC1 0
+#define CV_32SC1 0
 #endif
 
 void arithmeticBenchmarks()
@@ -80,6 +85,10 @@ void arithmeticBenchmarks()
     op<Pxl8u>("Div 8u C1" + sz, 1, CV_8UC1, Peer::Div, PXLB_SFS(pxliDiv_8u_C1RSfs));
     op<Pxl16s>("Div 16s C1" + sz, 1, CV_16SC1, Peer::Div, PXLB_SFS(pxliDiv_16s_C1RSfs));
     op<Pxl32f>("Div 32f C1" + sz, 1, CV_32FC1, Peer::Div, PXLB_F(pxliDiv_32f_C1R));
+    op<Pxl8u>("And 8u C1" + sz, 1, CV_8UC1, Peer::And, PXLB_F(pxliAnd_8u_C1R));
+    op<Pxl8u>("Or 8u C3" + sz, 3, CV_8UC3, Peer::Or, PXLB_F(pxliOr_8u_C3R));
+    op<Pxl16u>("Xor 16u C1" + sz, 1, CV_16UC1, Peer::Xor, PXLB_F(pxliXor_16u_C1R));
+    op<Pxl32s>("Xor 32s C1" + sz, 1, CV_32SC1, Peer::Xor, PXLB_F(pxliXor_32s_C1R));
 }
 
 const pxlbench::Registrar registrar(arithmeticBenchmarks);

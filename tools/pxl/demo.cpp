@@ -43,24 +43,18 @@ void Context::time(const std::string& op, const std::string& size, double pixels
 
 namespace {
 
-// The built-in image until the library makes its own: rings whose frequency rises towards the
-// edge in red, a horizontal ramp in green and a vertical ramp in blue.
+// The built-in image, made by the library: Jaehne rings in red, a horizontal ramp in green and a
+// vertical ramp in blue, interleaved from three planes; the gray image is the rings alone.
 void synthesise(const Image& rgb, const Image& gray)
 {
-    const double cx = (rgb.width - 1) / 2.0, cy = (rgb.height - 1) / 2.0;
-    const double rmax = std::hypot(cx, cy);
-    for (int y = 0; y < rgb.height; ++y) {
-        Pxl8u* p = rgb.data + static_cast<std::ptrdiff_t>(y) * rgb.step;
-        Pxl8u* g = gray.data + static_cast<std::ptrdiff_t>(y) * gray.step;
-        for (int x = 0; x < rgb.width; ++x) {
-            const double r = std::hypot(x - cx, y - cy) / rmax;
-            const double ring = 0.5 + 0.5 * std::sin(M_PI * 60.0 * r * r);
-            p[3 * x + 0] = static_cast<Pxl8u>(std::lround(255.0 * ring));
-            p[3 * x + 1] = static_cast<Pxl8u>(x * 255 / std::max(1, rgb.width - 1));
-            p[3 * x + 2] = static_cast<Pxl8u>(y * 255 / std::max(1, rgb.height - 1));
-            g[x] = static_cast<Pxl8u>((p[3 * x] * 2 + p[3 * x + 1] + p[3 * x + 2]) / 4);
-        }
-    }
+    const PxliSize roi = rgb.size();
+    Image red(roi.width, roi.height, 1), green(roi.width, roi.height, 1), blue(roi.width, roi.height, 1);
+    pxliImageJaehne_8u_C1R(red.data, red.step, roi);
+    pxliImageRamp_8u_C1R(green.data, green.step, roi, 0.0f, 255.0f / static_cast<float>(roi.width - 1), 0);
+    pxliImageRamp_8u_C1R(blue.data, blue.step, roi, 0.0f, 255.0f / static_cast<float>(roi.height - 1), 1);
+    const Pxl8u* planes[3] = {red.data, green.data, blue.data};
+    pxliCopy_8u_P3C3R(planes, red.step, rgb.data, rgb.step, roi);
+    pxliCopy_8u_C1R(red.data, red.step, gray.data, gray.step, roi);
 }
 
 void frameDemo(Context& ctx)
@@ -237,6 +231,35 @@ void borderDemo(Context& ctx)
              [&] { pxliCopyReplicateBorder_8u_C3R(src.data, src.step, src.size(), out.data, out.step, dst, b, b); });
 }
 
+// Noise and logic: Gaussian and uniform noise on the image, the image XOR its mirror image, and
+// the top three bits of each sample.
+void noiseLogicDemo(Context& ctx)
+{
+    const Image& src = ctx.rgb;
+    const PxliSize roi = src.size();
+    Image out(src.width, src.height, 3), mirrored(src.width, src.height, 3);
+    Pxl32u seed = 1;
+    pxliCopy_8u_C3R(src.data, src.step, out.data, out.step, roi);
+    pxliAddRandGauss_8u_C3IR(out.data, out.step, roi, 0.0f, 24.0f, &seed);
+    ctx.save("noise_gauss_sd24", out);
+    pxliCopy_8u_C3R(src.data, src.step, out.data, out.step, roi);
+    pxliAddRandUniform_8u_C3IR(out.data, out.step, roi, 0, 64, &seed);
+    ctx.save("noise_uniform_0_64", out);
+    pxliMirror_8u_C3R(src.data, src.step, mirrored.data, mirrored.step, roi, pxlAxisVertical);
+    pxliXor_8u_C3R(src.data, src.step, mirrored.data, mirrored.step, out.data, out.step, roi);
+    ctx.save("xor_mirror", out);
+    static const Pxl8u topBits[3] = {0xE0, 0xE0, 0xE0};
+    pxliAndC_8u_C3R(src.data, src.step, topBits, out.data, out.step, roi);
+    ctx.save("andc_top_three_bits", out);
+
+    const std::string size = std::to_string(src.width) + "x" + std::to_string(src.height);
+    const double px = static_cast<double>(src.width) * src.height;
+    ctx.time("pxliXor_8u_C3R", size, px,
+             [&] { pxliXor_8u_C3R(src.data, src.step, mirrored.data, mirrored.step, out.data, out.step, roi); });
+    ctx.time("pxliAddRandUniform_8u_C3IR", size, px, [&] { pxliAddRandUniform_8u_C3IR(out.data, out.step, roi, 0, 4, &seed); });
+    ctx.time("pxliImageJaehne_8u_C1R", size, px, [&] { pxliImageJaehne_8u_C1R(out.data, out.step, roi); });
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -249,6 +272,7 @@ const std::vector<Entry>& entries()
         {"muldiv", mulDivDemo},
         {"threshold", thresholdDemo},
         {"border", borderDemo},
+        {"noise and logic", noiseLogicDemo},
     };
     return all;
 }
