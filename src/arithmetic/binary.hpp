@@ -10,6 +10,7 @@
 #pragma once
 
 #include "arithmetic/arithmetic.hpp"
+#include "arithmetic/rows.hpp"
 #include "arithmetic/saturating.hpp"
 #include "arithmetic/scale.hpp"
 #include "exchange/exchange.hpp"
@@ -48,41 +49,21 @@ template <class T, class L> PxlStatus setZero(T* d, int ds, PxliSize roi)
     else return exch::setValue<T, 1>(T(0), d, ds, {roi.width * L::mem, roi.height});
 }
 
-// The row loops: one channel (or a flattened row) with a constant per sample, and whole pixels.
+// The row loops of the two shapes, with the operation and the scale rule inlined.
 template <class T, class Op, class L, class Finish>
 void binaryRows(const T* a, int as, const T* b, int bs, T* d, int ds, PxliSize roi, Finish finish)
 {
     using W = Wide<T>;
-    for (int y = 0; y < roi.height; ++y) {
-        const T* ra = rowAt(a, as, y);
-        const T* rb = rowAt(b, bs, y);
-        T* rd = rowAt(d, ds, y);
-        if constexpr (L::hasAlpha) {
-            for (int x = 0; x < roi.width; ++x)
-                for (int c = 0; c < 3; ++c) rd[4 * x + c] = finish(Op::apply(W(ra[4 * x + c]), W(rb[4 * x + c])));
-        } else {
-            const int n = roi.width * L::mem;
-            for (int i = 0; i < n; ++i) rd[i] = finish(Op::apply(W(ra[i]), W(rb[i])));
-        }
-    }
+    pairRows<T, L>(a, as, b, bs, d, ds, roi, [finish](T x, T y) { return finish(Op::apply(W(x), W(y))); });
 }
 
 template <class T, class Op, class L, class Finish>
-void constantRows(const T* s, int ss, const T* value, T* d, int ds, PxliSize roi, Finish finish)
+void constantRowsOf(const T* s, int ss, const T* value, T* d, int ds, PxliSize roi, Finish finish)
 {
     using W = Wide<T>;
-    W v[L::mem] = {};
+    W v[4] = {};
     for (int c = 0; c < L::proc; ++c) v[c] = W(value[c]);
-    for (int y = 0; y < roi.height; ++y) {
-        const T* rs = rowAt(s, ss, y);
-        T* rd = rowAt(d, ds, y);
-        if constexpr (L::mem == 1) {
-            for (int i = 0; i < roi.width; ++i) rd[i] = finish(Op::apply(v[0], W(rs[i])));
-        } else {
-            for (int x = 0; x < roi.width; ++x)
-                for (int c = 0; c < L::proc; ++c) rd[L::mem * x + c] = finish(Op::apply(v[c], W(rs[L::mem * x + c])));
-        }
-    }
+    constantRows<T, W, L>(s, ss, v, d, ds, roi, [finish](W vc, T x) { return finish(Op::apply(vc, W(x))); });
 }
 
 inline bool widthTimesFits(int width, int n) { return width <= INT32_MAX / n; }
@@ -162,7 +143,7 @@ PxlStatus constant(const T* pSrc, int srcStep, const T* value, T* pDst, int dstS
         if (const Shortcut cut = Op::template constantShortcut<T>(value[0], f); cut != Shortcut::None) return takeShortcut(cut, pSrc, srcStep, pDst, dstStep, roi);
     }
     const bool computed = withFinish<T, Op>(f, [&](auto finish) {
-        constantRows<T, Op, L>(pSrc, srcStep, value, pDst, dstStep, roi, finish);
+        constantRowsOf<T, Op, L>(pSrc, srcStep, value, pDst, dstStep, roi, finish);
     });
     return computed ? pxlStatusOk : setZero<T, L>(pDst, dstStep, roi);
 }

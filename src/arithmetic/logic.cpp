@@ -1,6 +1,7 @@
 // Bitwise logic and shifts. Every form is one operation per sample with no scale and no
 // saturation; the checks are pointers, steps below 1, sizes.
 #include "arithmetic/arithmetic.hpp"
+#include "arithmetic/rows.hpp"
 #include "frame/bind.hpp"
 
 #include <algorithm>
@@ -43,20 +44,6 @@ inline bool checksFail(PxlStatus& st, bool nullPointer, bool badStep, PxliSize r
     return st != pxlStatusOk;
 }
 
-template <class T, class L, class Fn> void sampleRows(const T* s, int ss, T* d, int ds, PxliSize roi, Fn fn)
-{
-    for (int y = 0; y < roi.height; ++y) {
-        const T* rs = rowAt(s, ss, y);
-        T* rd = rowAt(d, ds, y);
-        if constexpr (L::mem == 1) {
-            for (int x = 0; x < roi.width; ++x) rd[x] = fn(rs[x], 0);
-        } else {
-            for (int x = 0; x < roi.width; ++x)
-                for (int c = 0; c < L::proc; ++c) rd[L::mem * x + c] = fn(rs[L::mem * x + c], c);
-        }
-    }
-}
-
 }  // namespace
 
 // ---- Image with image ----------------------------------------------------------------------------
@@ -65,18 +52,7 @@ PxlStatus logicImages(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step
 {
     PxlStatus st;
     if (checksFail(st, !pSrc1 || !pSrc2 || !pDst, src1Step < 1 || src2Step < 1 || dstStep < 1, roi)) return st;
-    for (int y = 0; y < roi.height; ++y) {
-        const T* a = rowAt(pSrc1, src1Step, y);
-        const T* b = rowAt(pSrc2, src2Step, y);
-        T* d = rowAt(pDst, dstStep, y);
-        if constexpr (L::hasAlpha) {
-            for (int x = 0; x < roi.width; ++x)
-                for (int c = 0; c < 3; ++c) d[4 * x + c] = Op::apply(a[4 * x + c], b[4 * x + c]);
-        } else {
-            const int n = roi.width * L::mem;
-            for (int i = 0; i < n; ++i) d[i] = Op::apply(a[i], b[i]);
-        }
-    }
+    pairRows<T, L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi, [](T a, T b) { return Op::apply(a, b); });
     return pxlStatusOk;
 }
 template <class T, class Op, class L>
@@ -91,9 +67,7 @@ PxlStatus logicConstant(const T* pSrc, int srcStep, const T* value, T* pDst, int
 {
     PxlStatus st;
     if (checksFail(st, !pSrc || !value || !pDst, srcStep < 1 || dstStep < 1, roi)) return st;
-    T v[4] = {};
-    for (int c = 0; c < L::proc; ++c) v[c] = value[c];
-    sampleRows<T, L>(pSrc, srcStep, pDst, dstStep, roi, [&v](T x, int c) { return Op::apply(x, v[c]); });
+    constantRows<T, T, L>(pSrc, srcStep, value, pDst, dstStep, roi, [](T v, T x) { return Op::apply(x, v); });
     return pxlStatusOk;
 }
 template <class T, class Op> PxlStatus logicValue(const T* pSrc, int srcStep, T value, T* pDst, int dstStep, PxliSize roi)
@@ -114,7 +88,8 @@ template <class L> PxlStatus notImage(const Pxl8u* pSrc, int srcStep, Pxl8u* pDs
 {
     PxlStatus st;
     if (checksFail(st, !pSrc || !pDst, srcStep < 1 || dstStep < 1, roi)) return st;
-    sampleRows<Pxl8u, L>(pSrc, srcStep, pDst, dstStep, roi, [](Pxl8u x, int) { return static_cast<Pxl8u>(~x); });
+    const Pxl8u none[4] = {};
+    constantRows<Pxl8u, Pxl8u, L>(pSrc, srcStep, none, pDst, dstStep, roi, [](Pxl8u, Pxl8u x) { return static_cast<Pxl8u>(~x); });
     return pxlStatusOk;
 }
 template <class L> PxlStatus notImageInPlace(Pxl8u* pSrcDst, int srcDstStep, PxliSize roi)
@@ -143,11 +118,8 @@ PxlStatus shiftArray(const T* pSrc, int srcStep, const Pxl32u* count, T* pDst, i
             for (int y = 0; y < roi.height; ++y) std::fill(rowAt(pDst, dstStep, y), rowAt(pDst, dstStep, y) + roi.width, T(0));
             return pxlStatusOk;
         }
-        const uint32_t k = n[0];
-        sampleRows<T, L>(pSrc, srcStep, pDst, dstStep, roi, [k](T x, int) { return shiftSample<T, Left>(x, k); });
-    } else {
-        sampleRows<T, L>(pSrc, srcStep, pDst, dstStep, roi, [&n](T x, int c) { return shiftSample<T, Left>(x, n[c]); });
     }
+    constantRows<T, uint32_t, L>(pSrc, srcStep, n, pDst, dstStep, roi, [](uint32_t k, T x) { return shiftSample<T, Left>(x, k); });
     return pxlStatusOk;
 }
 template <class T, bool Left> PxlStatus shiftValue(const T* pSrc, int srcStep, Pxl32u count, T* pDst, int dstStep, PxliSize roi)

@@ -36,44 +36,6 @@ struct MulOp {
 
 namespace {
 
-// ---- Shared walking ------------------------------------------------------------------------------
-// fn(first, second) for every processed sample of the region: whole rows for C1, C3, C4 (one long
-// row when all three images are gap-free), the first three samples of each pixel for AC4.
-template <class T, class L, class Fn>
-void pairRows(const T* a, int as, const T* b, int bs, T* d, int ds, PxliSize roi, Fn fn)
-{
-    for (int y = 0; y < roi.height; ++y) {
-        const T* ra = rowAt(a, as, y);
-        const T* rb = rowAt(b, bs, y);
-        T* rd = rowAt(d, ds, y);
-        if constexpr (L::hasAlpha) {
-            for (int x = 0; x < roi.width; ++x)
-                for (int c = 0; c < 3; ++c) rd[4 * x + c] = fn(ra[4 * x + c], rb[4 * x + c]);
-        } else {
-            const int n = roi.width * L::mem;
-            for (int i = 0; i < n; ++i) rd[i] = fn(ra[i], rb[i]);
-        }
-    }
-}
-
-// fn(channel value, sample) for every processed sample, with a value per channel.
-template <class T, class V, class L, class Fn>
-void constantRowsOf(const T* s, int ss, const V* value, T* d, int ds, PxliSize roi, Fn fn)
-{
-    V v[4] = {};
-    for (int c = 0; c < L::proc; ++c) v[c] = value[c];
-    for (int y = 0; y < roi.height; ++y) {
-        const T* rs = rowAt(s, ss, y);
-        T* rd = rowAt(d, ds, y);
-        if constexpr (L::mem == 1) {
-            for (int i = 0; i < roi.width; ++i) rd[i] = fn(v[0], rs[i]);
-        } else {
-            for (int x = 0; x < roi.width; ++x)
-                for (int c = 0; c < L::proc; ++c) rd[L::mem * x + c] = fn(v[c], rs[L::mem * x + c]);
-        }
-    }
-}
-
 // ---- Quotients -------------------------------------------------------------------------------------
 // Rounding of a quotient by the division codes: 0 toward zero, 1 nearest with ties to even,
 // anything else (only 2 reaches here) half up, each exact by floor and fraction.
@@ -186,24 +148,6 @@ PxlStatus checkDivision(const T* a, int as, const T* b, int bs, const T* d, int 
 // ---- Div, Div_Round ------------------------------------------------------------------------------
 
 namespace {
-// The rounding mode set to nearest for the length of a call, and the caller's restored after.
-class NearestRounding {
-public:
-    NearestRounding() : saved_(std::fegetround())
-    {
-        if (saved_ != FE_TONEAREST) std::fesetround(FE_TONEAREST);
-    }
-    ~NearestRounding()
-    {
-        if (saved_ != FE_TONEAREST) std::fesetround(saved_);
-    }
-    NearestRounding(const NearestRounding&) = delete;
-    NearestRounding& operator=(const NearestRounding&) = delete;
-
-private:
-    int saved_;
-};
-
 // Rows of quotients with no test but selects, so that they vectorise; zero divisors are counted
 // on the way. With the mode held at nearest, nearbyint rounds ties to even. 8u works in float,
 // which is exact enough here: every numerator below 2^23 is exact, a quotient below 256 is within
@@ -317,11 +261,11 @@ PxlStatus divideConstant(const T* pSrc, int srcStep, const T* value, T* pDst, in
     if constexpr (std::is_floating_point_v<T>) {
         Pxl32f r[4] = {};
         for (int c = 0; c < L::proc; ++c) r[c] = 1.0f / value[c];
-        constantRowsOf<T, Pxl32f, L>(pSrc, srcStep, r, pDst, dstStep, roi, [](Pxl32f rc, Pxl32f x) { return x * rc; });
+        constantRows<T, Pxl32f, L>(pSrc, srcStep, r, pDst, dstStep, roi, [](Pxl32f rc, Pxl32f x) { return x * rc; });
     } else {
         bool zero = false;
         withQuotient<T>(f, 1, false, [&](auto quotient) {
-            constantRowsOf<T, T, L>(pSrc, srcStep, value, pDst, dstStep, roi, [&](T v, T x) { return quotient(v, x, zero); });
+            constantRows<T, T, L>(pSrc, srcStep, value, pDst, dstStep, roi, [&](T v, T x) { return quotient(v, x, zero); });
         });
     }
     return pxlStatusOk;
@@ -405,7 +349,7 @@ PxlStatus mulCScaleArray(const T* pSrc, int srcStep, const T* value, T* pDst, in
     if (!value || !pSrc || !pDst) return pxlStatusNullPointer;
     if (srcStep < 1 || dstStep < 1) return pxlStatusBadStep;
     if (roi.width < 1 || roi.height < 1) return pxlStatusBadSize;
-    constantRowsOf<T, T, L>(pSrc, srcStep, value, pDst, dstStep, roi, [](T v, T x) { return fractionProduct<T>(x, v); });
+    constantRows<T, T, L>(pSrc, srcStep, value, pDst, dstStep, roi, [](T v, T x) { return fractionProduct<T>(x, v); });
     return pxlStatusOk;
 }
 template <class T, class L>
@@ -448,7 +392,7 @@ PxlStatus mulC64f(const T* pSrc, int srcStep, const Pxl64f* value, T* pDst, int 
     if (roi.width < 1 || roi.height < 1) return pxlStatusBadSize;
     withRoundCode(code, [&](auto c) {
         constexpr int Code = decltype(c)::value;
-        constantRowsOf<T, Pxl64f, L>(pSrc, srcStep, value, pDst, dstStep, roi,
+        constantRows<T, Pxl64f, L>(pSrc, srcStep, value, pDst, dstStep, roi,
                                      [](Pxl64f v, T x) { return scaledByDouble<T, Code>(double(x) * v); });
     });
     return pxlStatusOk;

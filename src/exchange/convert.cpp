@@ -248,24 +248,6 @@ PxlStatus scale32f8u(const Pxl32f* pSrc, int srcStep, Pxl8u* pDst, int dstStep, 
 // nearest with ties to even (NaN gives 0); 32f targets clamp to the finite float range.
 
 namespace {
-// The rounding mode set to nearest for the length of a call, and the caller's restored after.
-class NearestRounding {
-public:
-    NearestRounding() : saved_(std::fegetround())
-    {
-        if (saved_ != FE_TONEAREST) std::fesetround(FE_TONEAREST);
-    }
-    ~NearestRounding()
-    {
-        if (saved_ != FE_TONEAREST) std::fesetround(saved_);
-    }
-    NearestRounding(const NearestRounding&) = delete;
-    NearestRounding& operator=(const NearestRounding&) = delete;
-
-private:
-    int saved_;
-};
-
 // With the mode at nearest, adding and taking away 1.5 * 2^52 rounds any |v| < 2^51 to the
 // nearest integer with ties to even, in two plain operations.
 inline double nearestEven(double v)

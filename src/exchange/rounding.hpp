@@ -5,6 +5,7 @@
 // and every choice is a select between two values, so loops over them vectorise.
 #pragma once
 
+#include <cfenv>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -65,6 +66,24 @@ template <class Body> inline void withRoundCode(int code, Body&& body)
     else if (code == kNearestEven) body(std::integral_constant<int, kNearestEven>{});
     else body(std::integral_constant<int, kNearestAway>{});
 }
+
+// The rounding mode set to nearest for the length of a call, and the caller's restored after.
+class NearestRounding {
+public:
+    NearestRounding() : saved_(std::fegetround())
+    {
+        if (saved_ != FE_TONEAREST) std::fesetround(FE_TONEAREST);
+    }
+    ~NearestRounding()
+    {
+        if (saved_ != FE_TONEAREST) std::fesetround(saved_);
+    }
+    NearestRounding(const NearestRounding&) = delete;
+    NearestRounding& operator=(const NearestRounding&) = delete;
+
+private:
+    int saved_;
+};
 
 // A row of floats to 8- or 16-bit integers by the code: roundToInt for every sample. The vector
 // body converts four samples at a time with the processor's float-to-integer conversion under a

@@ -11,7 +11,6 @@ using namespace pxltest;
 namespace {
 
 enum Rule { kConstant, kReplicate, kMirror, kWrap };
-const char* const kRuleName[] = {"Const", "Replicate", "Mirror", "Wrap"};
 
 // The rules as stated: the source index of position i for an extent n.
 int foldRef(int i, int n)
