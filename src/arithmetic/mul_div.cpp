@@ -166,6 +166,28 @@ template <class T> struct FastQuotientRow {
                 d[i] = x == 0.0f ? special : y / x;
                 zeros |= x == 0.0f;
             }
+        } else if (std::is_same_v<T, Pxl16s> && f >= -15 && f <= 15) {
+            // 16s: with num = b * 2^k and den = a * 2^s (exact in float and in 32-bit integers),
+            // the float quotient is within 2^-9 of the true one wherever the result does not
+            // saturate, so its nearest integer n is at most one step off; the integer remainder
+            // num - n * den says which way, and settles a tie toward the even neighbour.
+            const int k = f < 0 ? -f : 0, sh = f > 0 ? f : 0;
+            for (int i = 0; i < n; ++i) {
+                const int32_t num = int32_t(b[i]) * (int32_t{1} << k), den0 = int32_t(a[i]) * (int32_t{1} << sh);
+                const int32_t den = den0 == 0 ? 1 : den0;
+                float qf = float(num) / float(den);
+                qf = qf < -1073741824.0f ? -1073741824.0f : qf > 1073741824.0f ? 1073741824.0f : qf;
+                int32_t q = static_cast<int32_t>(std::nearbyint(qf));
+                const int32_t rem = static_cast<int32_t>(uint32_t(num) - uint32_t(q) * uint32_t(den));
+                const int32_t absRem = rem < 0 ? -rem : rem, absDen = den < 0 ? -den : den;
+                const int32_t rest = absDen - absRem;
+                const int32_t toward = (rem < 0) == (den < 0) ? 1 : -1;
+                q += (absRem > rest || (absRem == rest && (q & 1))) && rem != 0 ? toward : 0;
+                q = q < -32768 ? -32768 : q > 32767 ? 32767 : q;
+                const int32_t special = b[i] > 0 ? 32767 : b[i] < 0 ? -32768 : 0;
+                d[i] = static_cast<T>(den0 == 0 ? special : q);
+                zeros |= den0 == 0;
+            }
         } else {
             using F = std::conditional_t<std::is_same_v<T, Pxl8u>, float, double>;
             using L = std::numeric_limits<T>;
