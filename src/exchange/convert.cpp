@@ -3,6 +3,7 @@
 // ScaleC applies a multiplier and an offset. Every form is one row loop over a per-sample function
 // chosen once per call.
 #include "exchange/exchange.hpp"
+#include "arithmetic/scale.hpp"
 #include "exchange/rounding.hpp"
 #include "frame/bind.hpp"
 
@@ -22,9 +23,7 @@ template <class D, class S> inline D saturateTo(S x)
     if constexpr (kFloat<D>) {
         return static_cast<D>(x);
     } else {
-        using L = std::numeric_limits<D>;
-        const int64_t v = x;
-        return static_cast<D>(v < int64_t(L::min()) ? int64_t(L::min()) : v > int64_t(L::max()) ? int64_t(L::max()) : v);
+        return saturate<D>(int64_t{x});
     }
 }
 

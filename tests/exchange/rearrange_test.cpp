@@ -9,26 +9,6 @@ using namespace pxltest;
 
 namespace {
 
-template <class T> GuardedImage<T> randomImage(int w, int h, int channels, Rng& rng)
-{
-    GuardedImage<T> img(w, h, channels);
-    img.fillRandom(rng);
-    return img;
-}
-
-template <class T, class F>
-::testing::AssertionResult matches(const GuardedImage<T>& got, F want)
-{
-    if (!got.guardsIntact()) return ::testing::AssertionFailure() << "written outside the region";
-    for (int y = 0; y < got.height(); ++y)
-        for (int x = 0; x < got.width(); ++x)
-            for (int c = 0; c < got.channels(); ++c)
-                if (!sameBits(got.at(x, y, c), static_cast<T>(want(x, y, c))))
-                    return ::testing::AssertionFailure() << "pixel (" << x << ", " << y << ") channel " << c << ": got "
-                                                         << +got.at(x, y, c) << ", want " << +want(x, y, c);
-    return ::testing::AssertionSuccess();
-}
-
 // Sizes on both sides of the tile sides (32 in place, 64 out of place).
 const std::pair<int, int> kSizes[] = {{1, 1}, {1, 9}, {9, 1}, {7, 5}, {31, 33}, {64, 64}, {65, 130}, {150, 67}};
 const int kSquares[] = {1, 2, 31, 32, 33, 64, 97};
@@ -56,7 +36,7 @@ TYPED_TEST(Rearrange, TransposeMovesEveryPixelAcrossTheDiagonal)
             const auto src = randomImage<T>(w, h, n, rng);
             auto dst = randomImage<T>(h, w, n, rng);
             ASSERT_EQ(fn(src.data(), src.step(), dst.data(), dst.step(), src.size()), pxlStatusOk);
-            EXPECT_TRUE(matches(dst, [&](int x, int y, int c) { return src.at(y, x, c); }));
+            EXPECT_TRUE(matchesEach(dst, [&](int x, int y, int c) { return src.at(y, x, c); }));
         }
     for (auto [n, fn] : inPlace)
         for (int s : kSquares) {
@@ -64,10 +44,10 @@ TYPED_TEST(Rearrange, TransposeMovesEveryPixelAcrossTheDiagonal)
             auto img = randomImage<T>(s, s, n, rng);
             const auto src = img;
             ASSERT_EQ(fn(img.data(), img.step(), img.size()), pxlStatusOk);
-            EXPECT_TRUE(matches(img, [&](int x, int y, int c) { return src.at(y, x, c); }));
+            EXPECT_TRUE(matchesEach(img, [&](int x, int y, int c) { return src.at(y, x, c); }));
             // The same image through the two-image form takes the in-place path.
             ASSERT_EQ(forms[n == 1 ? 0 : n - 2].second(img.data(), img.step(), img.data(), img.step(), img.size()), pxlStatusOk);
-            EXPECT_TRUE(matches(img, [&](int x, int y, int c) { return src.at(x, y, c); }));
+            EXPECT_TRUE(matchesEach(img, [&](int x, int y, int c) { return src.at(x, y, c); }));
         }
 }
 
@@ -112,14 +92,14 @@ TYPED_TEST(Rearrange, MirrorAboutEachAxisInAndOutOfPlace)
                     };
                 };
                 ASSERT_EQ(f.fn(src.data(), src.step(), dst.data(), dst.step(), dst.size(), axis), pxlStatusOk);
-                EXPECT_TRUE(matches(dst, want(before)));
+                EXPECT_TRUE(matchesEach(dst, want(before)));
                 // In place, and the same image through the two-image form, give the same image.
                 auto img = src;
                 ASSERT_EQ(f.inPlace(img.data(), img.step(), img.size(), axis), pxlStatusOk);
-                EXPECT_TRUE(matches(img, want(src)));
+                EXPECT_TRUE(matchesEach(img, want(src)));
                 img = src;
                 ASSERT_EQ(f.fn(img.data(), img.step(), img.data(), img.step(), img.size(), axis), pxlStatusOk);
-                EXPECT_TRUE(matches(img, want(src)));
+                EXPECT_TRUE(matchesEach(img, want(src)));
             }
 }
 
@@ -134,9 +114,9 @@ TYPED_TEST(Rearrange, MirrorAcrossTheDiagonals)
         const auto src = randomImage<T>(h, w, 1, rng);
         auto dst = randomImage<T>(w, h, 1, rng);
         ASSERT_EQ(A::mirrorC1(src.data(), src.step(), dst.data(), dst.step(), {w, h}, pxlAxisDiagonal), pxlStatusOk);
-        EXPECT_TRUE(matches(dst, [&](int x, int y, int) { return src.at(y, x); }));
+        EXPECT_TRUE(matchesEach(dst, [&](int x, int y, int) { return src.at(y, x); }));
         ASSERT_EQ(A::mirrorC1(src.data(), src.step(), dst.data(), dst.step(), {w, h}, pxlAxisAntiDiagonal), pxlStatusOk);
-        EXPECT_TRUE(matches(dst, [&](int x, int y, int) { return src.at(h - 1 - y, w - 1 - x); }));
+        EXPECT_TRUE(matchesEach(dst, [&](int x, int y, int) { return src.at(h - 1 - y, w - 1 - x); }));
     }
 }
 
@@ -191,7 +171,7 @@ TYPED_TEST(Rearrange, SwapChannelsFollowsTheOrder)
                 auto dst = randomImage<T>(w, h, f.dstN, rng);
                 const auto before = dst;
                 ASSERT_EQ(f.fn(src.data(), src.step(), dst.data(), dst.step(), dst.size(), order), pxlStatusOk);
-                EXPECT_TRUE(matches(dst, [&](int x, int y, int c) { return c < f.count ? src.at(x, y, order[c]) : before.at(x, y, c); }));
+                EXPECT_TRUE(matchesEach(dst, [&](int x, int y, int c) { return c < f.count ? src.at(x, y, order[c]) : before.at(x, y, c); }));
             }
     // Three into four: below 3 a source channel, 3 the value, above 3 the channel stays.
     const T val = rng.sample<T>();
@@ -200,7 +180,7 @@ TYPED_TEST(Rearrange, SwapChannelsFollowsTheOrder)
         auto dst = randomImage<T>(37, 5, 4, rng);
         const auto before = dst;
         ASSERT_EQ(A::swapC3C4(src.data(), src.step(), dst.data(), dst.step(), dst.size(), order.data(), val), pxlStatusOk);
-        EXPECT_TRUE(matches(dst, [&](int x, int y, int c) {
+        EXPECT_TRUE(matchesEach(dst, [&](int x, int y, int c) {
             const int o = order[static_cast<std::size_t>(c)];
             return o < 3 ? src.at(x, y, o) : o == 3 ? val : before.at(x, y, c);
         }));
@@ -271,7 +251,7 @@ TYPED_TEST(Rearrange, SwapChannelsChecks)
     src.fillRandom(rng);
     auto out = GuardedImage<T>(5, 5, 4);
     ASSERT_EQ(A::swapC4(src.row(4), -src.step(), out.data(), out.step(), out.size(), good), pxlStatusOk);
-    EXPECT_TRUE(matches(out, [&](int x, int y, int c) { return src.at(x, 4 - y, good[c]); }));
+    EXPECT_TRUE(matchesEach(out, [&](int x, int y, int c) { return src.at(x, 4 - y, good[c]); }));
 }
 
 TEST(SwapChannels, InPlaceChecks)

@@ -31,20 +31,6 @@ GuardedImage<Pxl8u> randomMask(const Shape& s, Rng& rng)
     return m;
 }
 
-// got(x, y, c) must equal want(x, y, c) over the region, bit for bit, and the guards must stand.
-template <class T, class F>
-::testing::AssertionResult matches(const GuardedImage<T>& got, F want)
-{
-    if (!got.guardsIntact()) return ::testing::AssertionFailure() << "written outside the region";
-    for (int y = 0; y < got.height(); ++y)
-        for (int x = 0; x < got.width(); ++x)
-            for (int c = 0; c < got.channels(); ++c)
-                if (!sameBits(got.at(x, y, c), static_cast<T>(want(x, y, c))))
-                    return ::testing::AssertionFailure() << "pixel (" << x << ", " << y << ") channel " << c << ": got "
-                                                         << +got.at(x, y, c) << ", want " << +want(x, y, c);
-    return ::testing::AssertionSuccess();
-}
-
 // Pointers are checked before sizes: each null pointer and each bad size, alone and two at once.
 struct PtrSizeArgs {
     std::array<bool, 5> null{};
@@ -84,17 +70,17 @@ TYPED_TEST(SetCopy, SetWritesTheValueAndNothingElse)
         for (const T* val : {v, same}) {
             auto c1 = image<T>(s, 1, rng);
             ASSERT_EQ(A::setC1(val[0], c1.data(), c1.step(), c1.size()), pxlStatusOk);
-            EXPECT_TRUE(matches(c1, [&](int, int, int) { return val[0]; }));
+            EXPECT_TRUE(matchesEach(c1, [&](int, int, int) { return val[0]; }));
             for (int n : {3, 4}) {
                 auto img = image<T>(s, n, rng);
                 const auto before = img;
                 ASSERT_EQ((n == 3 ? A::setC3 : A::setC4)(val, img.data(), img.step(), img.size()), pxlStatusOk);
-                EXPECT_TRUE(matches(img, [&](int, int, int c) { return val[c]; }));
+                EXPECT_TRUE(matchesEach(img, [&](int, int, int c) { return val[c]; }));
             }
             auto ac4 = image<T>(s, 4, rng);
             const auto before = ac4;
             ASSERT_EQ(A::setAC4(val, ac4.data(), ac4.step(), ac4.size()), pxlStatusOk);
-            EXPECT_TRUE(matches(ac4, [&](int x, int y, int c) { return c == 3 ? before.at(x, y, 3) : val[c]; }));
+            EXPECT_TRUE(matchesEach(ac4, [&](int x, int y, int c) { return c == 3 ? before.at(x, y, 3) : val[c]; }));
         }
         // One channel of three or four; pDst points at that channel of the first pixel.
         for (int n : {3, 4}) {
@@ -102,7 +88,7 @@ TYPED_TEST(SetCopy, SetWritesTheValueAndNothingElse)
             auto img = image<T>(s, n, rng);
             const auto before = img;
             ASSERT_EQ((n == 3 ? A::setC3C : A::setC4C)(v[1], img.data() + ch, img.step(), img.size()), pxlStatusOk);
-            EXPECT_TRUE(matches(img, [&](int x, int y, int c) { return c == ch ? v[1] : before.at(x, y, c); }));
+            EXPECT_TRUE(matchesEach(img, [&](int x, int y, int c) { return c == ch ? v[1] : before.at(x, y, c); }));
         }
     }
 }
@@ -120,14 +106,14 @@ TYPED_TEST(SetCopy, MaskedSetWritesOnlyWhereTheMaskIsSet)
             auto img = image<T>(s, f.channels, rng);
             const auto before = img;
             ASSERT_EQ(f.fn(v, img.data(), img.step(), img.size(), mask.data(), mask.step()), pxlStatusOk);
-            EXPECT_TRUE(matches(img, [&](int x, int y, int c) {
+            EXPECT_TRUE(matchesEach(img, [&](int x, int y, int c) {
                 return mask.at(x, y) && c < f.written ? v[c] : before.at(x, y, c);
             })) << f.channels << " channels, " << f.written << " written";
         }
         auto c1 = image<T>(s, 1, rng);
         const auto before = c1;
         ASSERT_EQ(A::setC1M(v[2], c1.data(), c1.step(), c1.size(), mask.data(), mask.step()), pxlStatusOk);
-        EXPECT_TRUE(matches(c1, [&](int x, int y, int) { return mask.at(x, y) ? v[2] : before.at(x, y); }));
+        EXPECT_TRUE(matchesEach(c1, [&](int x, int y, int) { return mask.at(x, y) ? v[2] : before.at(x, y); }));
     }
     // An all-zero mask changes nothing.
     GuardedImage<T> img(5, 4);
@@ -157,10 +143,10 @@ TYPED_TEST(SetCopy, CopyOfEveryLayoutAndMask)
             auto dst = image<T>(s, f.channels, rng);
             const auto before = dst;
             ASSERT_EQ(f.plain(src.data(), src.step(), dst.data(), dst.step(), dst.size()), pxlStatusOk);
-            EXPECT_TRUE(matches(dst, [&](int x, int y, int c) { return c < f.copied ? src.at(x, y, c) : before.at(x, y, c); }));
+            EXPECT_TRUE(matchesEach(dst, [&](int x, int y, int c) { return c < f.copied ? src.at(x, y, c) : before.at(x, y, c); }));
             auto mdst = before;
             ASSERT_EQ(f.masked(src.data(), src.step(), mdst.data(), mdst.step(), mdst.size(), mask.data(), mask.step()), pxlStatusOk);
-            EXPECT_TRUE(matches(mdst, [&](int x, int y, int c) {
+            EXPECT_TRUE(matchesEach(mdst, [&](int x, int y, int c) {
                 return mask.at(x, y) && c < f.copied ? src.at(x, y, c) : before.at(x, y, c);
             }));
         }
@@ -189,7 +175,7 @@ TYPED_TEST(SetCopy, CopyBetweenLayoutsAndChannels)
             auto dst = image<T>(s, f.dstN, rng);
             const auto before = dst;
             ASSERT_EQ(f.fn(src.data() + f.srcCh, src.step(), dst.data() + f.dstCh, dst.step(), dst.size()), pxlStatusOk);
-            EXPECT_TRUE(matches(dst, [&](int x, int y, int c) {
+            EXPECT_TRUE(matchesEach(dst, [&](int x, int y, int c) {
                 const int k = c - f.dstCh;
                 return k >= 0 && k < f.count ? src.at(x, y, f.srcCh + k) : before.at(x, y, c);
             }));
@@ -212,11 +198,11 @@ TYPED_TEST(SetCopy, PlanesToAndFromInterleaved)
             for (int c = 0; c < n; ++c) dst[c] = planes[static_cast<std::size_t>(c)].data();
             ASSERT_EQ((n == 3 ? A::copyC3P3 : A::copyC4P4)(src.data(), src.step(), dst, planes[0].step(), src.size()), pxlStatusOk);
             for (int c = 0; c < n; ++c)
-                EXPECT_TRUE(matches(planes[static_cast<std::size_t>(c)], [&](int x, int y, int) { return src.at(x, y, c); }));
+                EXPECT_TRUE(matchesEach(planes[static_cast<std::size_t>(c)], [&](int x, int y, int) { return src.at(x, y, c); }));
             auto back = image<T>(s, n, rng);
             const T* from[4] = {dst[0], dst[1], dst[2], dst[3]};
             ASSERT_EQ((n == 3 ? A::copyP3C3 : A::copyP4C4)(from, planes[0].step(), back.data(), back.step(), back.size()), pxlStatusOk);
-            EXPECT_TRUE(matches(back, [&](int x, int y, int c) { return src.at(x, y, c); }));
+            EXPECT_TRUE(matchesEach(back, [&](int x, int y, int c) { return src.at(x, y, c); }));
         }
 }
 
@@ -230,14 +216,14 @@ TYPED_TEST(SetCopy, StepsAreNotCheckedZeroAndNegativeWork)
     dst.fillRandom(rng);
     // A zero source step reads the first row again for every row.
     ASSERT_EQ(A::copyC3(src.data(), 0, dst.data(), dst.step(), dst.size()), pxlStatusOk);
-    EXPECT_TRUE(matches(dst, [&](int x, int, int c) { return src.at(x, 0, c); }));
+    EXPECT_TRUE(matchesEach(dst, [&](int x, int, int c) { return src.at(x, 0, c); }));
     // A negative destination step from the last row writes the rows upwards.
     ASSERT_EQ(A::copyC3(src.data(), src.step(), dst.row(5), -dst.step(), dst.size()), pxlStatusOk);
-    EXPECT_TRUE(matches(dst, [&](int x, int y, int c) { return src.at(x, 5 - y, c); }));
+    EXPECT_TRUE(matchesEach(dst, [&](int x, int y, int c) { return src.at(x, 5 - y, c); }));
     const T v[3] = {T(1), T(2), T(3)};
     GuardedImage<T> one(11, 1, 3);
     ASSERT_EQ(A::setC3(v, one.data(), 0, {11, 6}), pxlStatusOk);
-    EXPECT_TRUE(matches(one, [&](int, int, int c) { return v[c]; }));
+    EXPECT_TRUE(matchesEach(one, [&](int, int, int c) { return v[c]; }));
 }
 
 TYPED_TEST(SetCopy, PointersThenSizes)
@@ -315,7 +301,7 @@ TEST(CopyManaged, AnyFlagsGiveThePlainCopy)
         const auto src = image<Pxl8u>({29, 7, false}, 1, rng);
         auto dst = image<Pxl8u>({29, 7, false}, 1, rng);
         ASSERT_EQ(pxliCopyManaged_8u_C1R(src.data(), src.step(), dst.data(), dst.step(), dst.size(), flags), pxlStatusOk);
-        EXPECT_TRUE(matches(dst, [&](int x, int y, int) { return src.at(x, y); }));
+        EXPECT_TRUE(matchesEach(dst, [&](int x, int y, int) { return src.at(x, y); }));
     }
     GuardedImage<Pxl8u> dst(4, 4);
     expectPointersThenSize(2, dst.size(), dst, [&](const PtrSizeArgs& a) {
@@ -332,7 +318,7 @@ TEST(Dup, EveryChannelGetsTheSample)
             auto dst = image<Pxl8u>(s, n, rng);
             ASSERT_EQ((n == 3 ? pxliDup_8u_C1C3R : pxliDup_8u_C1C4R)(src.data(), src.step(), dst.data(), dst.step(), dst.size()),
                       pxlStatusOk);
-            EXPECT_TRUE(matches(dst, [&](int x, int y, int) { return src.at(x, y); }));
+            EXPECT_TRUE(matchesEach(dst, [&](int x, int y, int) { return src.at(x, y); }));
         }
     GuardedImage<Pxl8u> src(4, 4), dst(4, 4, 3);
     expectPointersThenSize(2, dst.size(), dst, [&](const PtrSizeArgs& a) {

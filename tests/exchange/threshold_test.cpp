@@ -9,13 +9,6 @@ using namespace pxltest;
 
 namespace {
 
-template <class T> GuardedImage<T> randomImage(int w, int h, int n, Rng& rng)
-{
-    GuardedImage<T> img(w, h, n);
-    img.fillRandom(rng, 0.3);
-    return img;
-}
-
 // Puts some samples exactly on the thresholds, where the strict comparisons matter.
 template <class T> void seedEqualities(GuardedImage<T>& img, const T* t, int channels, Rng& rng)
 {
@@ -37,9 +30,9 @@ template <class T, class Call, class Want>
 ::testing::AssertionResult checkThreshold(const LayoutInfo& L, bool inPlace, const T* thresholds, Call call, Want want, Rng& rng)
 {
     const int w = rng.uniformInt(1, 11), h = rng.uniformInt(1, 3);
-    auto src = randomImage<T>(w, h, L.mem, rng);
+    auto src = randomImage<T>(w, h, L.mem, rng, 0.3);
     seedEqualities(src, thresholds, L.proc, rng);
-    auto dst = inPlace ? src : randomImage<T>(w, h, L.mem, rng);
+    auto dst = inPlace ? src : randomImage<T>(w, h, L.mem, rng, 0.3);
     const auto before = dst;
     const PxlStatus st = inPlace ? call(dst.data(), dst.step(), dst.data(), dst.step(), PxliSize{w, h}, true)
                                  : call(src.data(), src.step(), dst.data(), dst.step(), PxliSize{w, h}, false);
@@ -233,8 +226,8 @@ TYPED_TEST(Compare, MaskIs255WhereTheRelationHoldsInEveryChannel)
             for (int code = 0; code <= 4; ++code) {
                 const LayoutInfo& L = layouts[li];
                 const int w = rng.uniformInt(1, 13), h = rng.uniformInt(1, 3);
-                auto a = randomImage<T>(w, h, L.mem, rng);
-                auto b = randomImage<T>(w, h, L.mem, rng);
+                auto a = randomImage<T>(w, h, L.mem, rng, 0.3);
+                auto b = randomImage<T>(w, h, L.mem, rng, 0.3);
                 for (int i = 0; i < 8; ++i) {  // equal samples, and pixels equal in every channel
                     const int x = rng.uniformInt(0, w - 1), y = rng.uniformInt(0, h - 1);
                     for (int c = 0; c < L.mem; ++c)
@@ -295,7 +288,7 @@ TEST(CompareEqualEps, WithinTheToleranceInEveryChannel)
         for (int li = 0; li < 4; ++li) {
             const LayoutInfo& L = layouts[li];
             const int w = rng.uniformInt(1, 9), h = rng.uniformInt(1, 3);
-            auto a = randomImage<Pxl32f>(w, h, L.mem, rng);
+            auto a = randomImage<Pxl32f>(w, h, L.mem, rng, 0.3);
             auto b = a;
             for (int y = 0; y < h; ++y)
                 for (int x = 0; x < w; ++x)

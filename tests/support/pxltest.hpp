@@ -175,6 +175,10 @@ template <class T> T sfsReference(int64_t s, int f)
     return static_cast<T>(std::clamp<int64_t>(r, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
 }
 
+// A guarded image of random samples, extremeShare of them drawn from the type's extremes.
+template <class T> class GuardedImage;
+template <class T> GuardedImage<T> randomImage(int w, int h, int channels, Rng& rng, double extremeShare = 0.125);
+
 // Two samples are the same bit for bit (so NaN equals the same NaN, and 0 differs from -0).
 template <class T> bool sameBits(T a, T b) { return std::memcmp(&a, &b, sizeof(T)) == 0; }
 
@@ -191,6 +195,27 @@ template <class T>
                   << +want.row(y)[i] << "\n";
     if (bad == 0) return ::testing::AssertionSuccess();
     return r << bad << " samples differ";
+}
+
+template <class T> GuardedImage<T> randomImage(int w, int h, int channels, Rng& rng, double extremeShare)
+{
+    GuardedImage<T> img(w, h, channels);
+    img.fillRandom(rng, extremeShare);
+    return img;
+}
+
+// Every sample of the region equals want(x, y, channel) bit for bit, and the guards stand.
+template <class T, class F>
+::testing::AssertionResult matchesEach(const GuardedImage<T>& got, F want)
+{
+    if (!got.guardsIntact()) return ::testing::AssertionFailure() << "written outside the region";
+    for (int y = 0; y < got.height(); ++y)
+        for (int x = 0; x < got.width(); ++x)
+            for (int c = 0; c < got.channels(); ++c)
+                if (!sameBits(got.at(x, y, c), static_cast<T>(want(x, y, c))))
+                    return ::testing::AssertionFailure() << "pixel (" << x << ", " << y << ") channel " << c << ": got "
+                                                         << +got.at(x, y, c) << ", want " << +want(x, y, c);
+    return ::testing::AssertionSuccess();
 }
 
 // ---------------------------------------------------------------------------------------------
