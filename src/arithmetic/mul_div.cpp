@@ -1,11 +1,12 @@
 // Multiply and divide. Mul and MulC are the scaled engine with the product; Div, DivC and
-// Div_Round compute each quotient in double and round it once; MulScale treats samples as
-// fractions of full scale; MulC64f multiplies by double constants.
+// Div_Round round each exact quotient once (in double, or in float rows where float is exact);
+// MulScale treats samples as fractions of full scale; MulC64f multiplies by double constants.
 #include "arithmetic/binary.hpp"
+#include "arithmetic/quotient.hpp"
 #include "exchange/rounding.hpp"
 #include "frame/bind.hpp"
 
-#include <cfenv>
+#include <bit>
 #include <cmath>
 
 namespace pxl::arith {
@@ -93,17 +94,21 @@ struct FixedQuotient16u {
 };
 
 // 32f: the quotient rounded once; a zero divisor (NaN is not zero) gives +-infinity by the sign
-// of b, or the NaN 0xFFC00000 for b zero or NaN, and raises the flag.
+// of b, or the NaN 0xFFC00000 for b zero or NaN, and raises the flag. Adding +0 turns a -0
+// divisor into +0 (under the nearest mode held for the call), so b / 0 is already infinity of
+// b's sign; only a NaN quotient of a zero divisor needs replacing, which rows do in a second
+// pass when they met a zero.
+inline Pxl32f rawQuotient(Pxl32f a, Pxl32f b) { return b / (a + 0.0f); }
+inline Pxl32f zeroDivisorNaN(Pxl32f a, Pxl32f q)
+{
+    return ((a == 0.0f) & (q != q)) ? std::bit_cast<Pxl32f>(0xFFC00000u) : q;
+}
+
 struct FloatQuotient {
     Pxl32f operator()(Pxl32f a, Pxl32f b, bool& zero) const
     {
-        if (a == 0.0f) {
-            zero = true;
-            if (b > 0.0f) return std::numeric_limits<Pxl32f>::infinity();
-            if (b < 0.0f) return -std::numeric_limits<Pxl32f>::infinity();
-            return std::bit_cast<Pxl32f>(0xFFC00000u);
-        }
-        return b / a;
+        zero |= a == 0.0f;
+        return zeroDivisorNaN(a, rawQuotient(a, b));
     }
 };
 
@@ -148,63 +153,31 @@ PxlStatus checkDivision(const T* a, int as, const T* b, int bs, const T* d, int 
 // ---- Div, Div_Round ------------------------------------------------------------------------------
 
 namespace {
-// Rows of quotients with no test but selects, so that they vectorise; zero divisors are counted
-// on the way. With the mode held at nearest, nearbyint rounds ties to even. 8u works in float,
-// which is exact enough here: every numerator below 2^23 is exact, a quotient below 256 is within
-// 2^-16 of the true one while a non-tie lies at least 1/510 from a half, and anything larger
-// saturates. 16s needs double for the same argument.
-template <class T> struct FastQuotientRow {
-    static constexpr bool kAvailable = std::is_same_v<T, Pxl8u> || std::is_same_v<T, Pxl16s> || std::is_same_v<T, Pxl32f>;
-    static int run(const T* a, const T* b, T* d, int n, int f)
-    {
+// Div's rows for the forms without alpha, where whole vectors of quotients are worth it: 32f
+// everywhere, 8u and 16s for f >= 0 (the float argument of the row kernel has no left shift).
+template <class T>
+constexpr bool kQuotientRows = std::is_same_v<T, Pxl32f> || std::is_same_v<T, Pxl8u> || std::is_same_v<T, Pxl16s>;
+
+// One row; returns whether a divisor was zero.
+template <class T> bool quotientRow(const T* a, const T* b, T* d, int n, int f)
+{
+    if constexpr (std::is_same_v<T, Pxl32f>) {
         int zeros = 0;
-        if constexpr (std::is_same_v<T, Pxl32f>) {
-            const float inf = std::numeric_limits<float>::infinity(), nan = std::bit_cast<float>(0xFFC00000u);
-            for (int i = 0; i < n; ++i) {
-                const float x = a[i], y = b[i];
-                const float special = y > 0.0f ? inf : y < 0.0f ? -inf : nan;
-                d[i] = x == 0.0f ? special : y / x;
-                zeros |= x == 0.0f;
-            }
-        } else if (std::is_same_v<T, Pxl16s> && f >= -15 && f <= 15) {
-            // 16s: with num = b * 2^k and den = a * 2^s (exact in float and in 32-bit integers),
-            // the float quotient is within 2^-9 of the true one wherever the result does not
-            // saturate, so its nearest integer n is at most one step off; the integer remainder
-            // num - n * den says which way, and settles a tie toward the even neighbour.
-            const int k = f < 0 ? -f : 0, sh = f > 0 ? f : 0;
-            for (int i = 0; i < n; ++i) {
-                const int32_t num = int32_t(b[i]) * (int32_t{1} << k), den0 = int32_t(a[i]) * (int32_t{1} << sh);
-                const int32_t den = den0 == 0 ? 1 : den0;
-                float qf = float(num) / float(den);
-                qf = qf < -1073741824.0f ? -1073741824.0f : qf > 1073741824.0f ? 1073741824.0f : qf;
-                int32_t q = static_cast<int32_t>(std::nearbyint(qf));
-                const int32_t rem = static_cast<int32_t>(uint32_t(num) - uint32_t(q) * uint32_t(den));
-                const int32_t absRem = rem < 0 ? -rem : rem, absDen = den < 0 ? -den : den;
-                const int32_t rest = absDen - absRem;
-                const int32_t toward = (rem < 0) == (den < 0) ? 1 : -1;
-                q += (absRem > rest || (absRem == rest && (q & 1))) && rem != 0 ? toward : 0;
-                q = q < -32768 ? -32768 : q > 32767 ? 32767 : q;
-                const int32_t special = b[i] > 0 ? 32767 : b[i] < 0 ? -32768 : 0;
-                d[i] = static_cast<T>(den0 == 0 ? special : q);
-                zeros |= den0 == 0;
-            }
-        } else {
-            using F = std::conditional_t<std::is_same_v<T, Pxl8u>, float, double>;
-            using L = std::numeric_limits<T>;
-            const F m = std::ldexp(F(1), -std::clamp(f, -40, 40));
-            const F lo = F(L::min()), hi = F(L::max());
-            for (int i = 0; i < n; ++i) {
-                const F x = F(a[i]), y = F(b[i]);
-                F q = std::nearbyint(y * m / (x == F(0) ? F(1) : x));
-                q = q < lo ? lo : q > hi ? hi : q;
-                const F special = y > F(0) ? hi : y < F(0) ? lo : F(0);
-                d[i] = static_cast<T>(static_cast<int32_t>(x == F(0) ? special : q));
-                zeros |= x == F(0);
-            }
+        for (int i = 0; i < n; ++i) {
+            d[i] = rawQuotient(a[i], b[i]);
+            zeros |= a[i] == 0.0f;
         }
-        return zeros;
+        if (zeros == 0) return false;
+        for (int i = 0; i < n; ++i) d[i] = zeroDivisorNaN(a[i], d[i]);
+        return true;
+    } else {
+        bool zero = false;
+        int i = krnQuotientRow(a, b, d, n, f, zero);
+        const IntegerQuotient<T, 1> quotient(f);
+        for (; i < n; ++i) d[i] = quotient(a[i], b[i], zero);
+        return zero;
     }
-};
+}
 }  // namespace
 
 template <class T, class L>
@@ -212,15 +185,16 @@ PxlStatus divide(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* 
 {
     if (const PxlStatus st = checkDivision<T, L, false>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi); st != pxlStatusOk)
         return st;
-    if constexpr (FastQuotientRow<T>::kAvailable && !L::hasAlpha) {
-        const NearestRounding nearest;
-        int zeros = 0;
-        for (int y = 0; y < roi.height; ++y)
-            zeros |= FastQuotientRow<T>::run(rowAt(pSrc1, src1Step, y), rowAt(pSrc2, src2Step, y), rowAt(pDst, dstStep, y),
-                                             roi.width * L::mem, f);
-        return divStatus(zeros != 0);
-    }
+    const NearestRounding nearest;
     bool zero = false;
+    if constexpr (kQuotientRows<T> && !L::hasAlpha) {
+        if (std::is_floating_point_v<T> || f >= 0) {
+            for (int y = 0; y < roi.height; ++y)
+                zero |= quotientRow<T>(rowAt(pSrc1, src1Step, y), rowAt(pSrc2, src2Step, y), rowAt(pDst, dstStep, y),
+                                       roi.width * L::mem, f);
+            return divStatus(zero);
+        }
+    }
     withQuotient<T>(f, 1, false, [&](auto quotient) {
         pairRows<T, L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi, [&](T a, T b) { return quotient(a, b, zero); });
     });
