@@ -154,7 +154,7 @@ PxlStatus checkDivision(const T* a, int as, const T* b, int bs, const T* d, int 
 
 namespace {
 // Div's rows for the forms without alpha, where whole vectors of quotients are worth it: 32f
-// everywhere, 8u and 16s for f >= 0 (the float argument of the row kernel has no left shift).
+// and 8u everywhere, 16s for f >= 0 (where float quotients are exact).
 template <class T>
 constexpr bool kQuotientRows = std::is_same_v<T, Pxl32f> || std::is_same_v<T, Pxl8u> || std::is_same_v<T, Pxl16s>;
 
@@ -188,7 +188,7 @@ PxlStatus divide(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* 
     const NearestRounding nearest;
     bool zero = false;
     if constexpr (kQuotientRows<T> && !L::hasAlpha) {
-        if (std::is_floating_point_v<T> || f >= 0) {
+        if (!std::is_same_v<T, Pxl16s> || f >= 0) {
             for (int y = 0; y < roi.height; ++y)
                 zero |= quotientRow<T>(rowAt(pSrc1, src1Step, y), rowAt(pSrc2, src2Step, y), rowAt(pDst, dstStep, y),
                                        roi.width * L::mem, f);

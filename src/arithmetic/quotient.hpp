@@ -1,9 +1,12 @@
-// Rows of rounded quotients of 8u and 16s samples, b * 2^-f / a for f >= 0, sixteen, eight or
-// four at a time in float. Float is exact here: b * 2^-f and a are exact, and the division is
-// rounded once, to within |q| * 2^-24 of the true quotient q = b / (a * 2^f). A quotient that is
-// not a tie lies at least 1 / (2 |a| 2^f) from the nearest half, while |q| * 2^-24 is at most
-// 2^15 * 2^-24 / (|a| 2^f), far less; a tie is a multiple of a half below 2^23, so float holds it
-// exactly. Hence rounding the float quotient to nearest (ties to even) rounds the true one.
+// Rows of rounded quotients of 8u and 16s samples, b * 2^-f / a, sixteen, eight or four at a
+// time in float; 16s for f >= 0 only. Float is exact here: b * 2^-f and a are exact, and the
+// division is rounded once, to within |q| * 2^-24 of the true quotient q = b / (a 2^f). A
+// quotient that is not a tie lies at least 1 / (2 |a| 2^f) from the nearest half, while
+// |q| * 2^-24 is at most 2^15 * 2^-24 / (|a| 2^f), far less; a tie is a multiple of a half below
+// 2^23, so float holds it exactly. Hence rounding the float quotient to nearest (ties to even)
+// rounds the true one. For 8u and f < 0, dividends beyond 2^16 * 2^f are cut to that: their
+// quotients pass 2^16 / 255 > 255 either way, and every quotient that does not saturate is
+// below 256 with a = 1..255, where the same argument holds.
 //
 // A zero divisor is divided as one, and its lane then takes b * 2^16, which the saturating
 // narrowing turns into the end of the range b's sign points to (0 for b = 0). The caller holds
@@ -30,17 +33,21 @@ inline int krnQuotientRow([[maybe_unused]] const T* a, [[maybe_unused]] const T*
     int i = 0;
 #if defined(__SSE4_1__)
     constexpr bool kBytes = sizeof(T) == 1;
-    const float scale = std::ldexp(1.0f, -(f < 40 ? f : 40));  // beyond 2^-40 every quotient is 0
+    // 2^-40 makes every quotient 0, and from 2^16 on every non-zero 8u dividend is cut to
+    // 2^16, so the factor is held within those (16s comes here with f >= 0 only).
+    const int e = f < -16 ? -16 : f > 40 ? 40 : f;
+    const float scale = std::ldexp(1.0f, -e);
+    const int32_t cut = e < 0 ? int32_t{1} << (16 + e) : int32_t{1} << 16;
 #if defined(__AVX512F__)
     {
         const __m512 m = _mm512_set1_ps(scale);
-        const __m512i one = _mm512_set1_epi32(1);
+        const __m512i one = _mm512_set1_epi32(1), cut16 = _mm512_set1_epi32(cut);
         __mmask16 seen = 0;
         for (; i + 16 <= n; i += 16) {
             __m512i x, y;
             if constexpr (kBytes) {
                 x = _mm512_cvtepu8_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a + i)));
-                y = _mm512_cvtepu8_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(b + i)));
+                y = _mm512_min_epi32(_mm512_cvtepu8_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(b + i))), cut16);
             } else {
                 x = _mm512_cvtepi16_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(a + i)));
                 y = _mm512_cvtepi16_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(b + i)));
@@ -58,12 +65,13 @@ inline int krnQuotientRow([[maybe_unused]] const T* a, [[maybe_unused]] const T*
 #if defined(__AVX2__)
     {
         const __m256 m = _mm256_set1_ps(scale);
+        const __m256i cut8 = _mm256_set1_epi32(cut);
         __m256i seen = _mm256_setzero_si256();
         for (; i + 8 <= n; i += 8) {
             __m256i x, y;
             if constexpr (kBytes) {
                 x = _mm256_cvtepu8_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(a + i)));
-                y = _mm256_cvtepu8_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(b + i)));
+                y = _mm256_min_epi32(_mm256_cvtepu8_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(b + i))), cut8);
             } else {
                 x = _mm256_cvtepi16_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a + i)));
                 y = _mm256_cvtepi16_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(b + i)));
@@ -87,6 +95,7 @@ inline int krnQuotientRow([[maybe_unused]] const T* a, [[maybe_unused]] const T*
 #endif
     {
         const __m128 m = _mm_set1_ps(scale);
+        const __m128i cut4 = _mm_set1_epi32(cut);
         __m128i seen = _mm_setzero_si128();
         for (; i + 4 <= n; i += 4) {
             __m128i x, y;
@@ -95,7 +104,7 @@ inline int krnQuotientRow([[maybe_unused]] const T* a, [[maybe_unused]] const T*
                 __builtin_memcpy(&xa, a + i, 4);
                 __builtin_memcpy(&yb, b + i, 4);
                 x = _mm_cvtepu8_epi32(_mm_cvtsi32_si128(xa));
-                y = _mm_cvtepu8_epi32(_mm_cvtsi32_si128(yb));
+                y = _mm_min_epi32(_mm_cvtepu8_epi32(_mm_cvtsi32_si128(yb)), cut4);
             } else {
                 x = _mm_cvtepi16_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(a + i)));
                 y = _mm_cvtepi16_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(b + i)));
