@@ -4,6 +4,7 @@
 // examples, and the orders of checks.
 #include "pxltest.hpp"
 
+#include <cfenv>
 #include <climits>
 
 using namespace pxltest;
@@ -313,6 +314,36 @@ TEST(Div, WorkedExamples)
     EXPECT_TRUE(w3.unchanged());
     Pxl8u one = 1;
     EXPECT_EQ(pxliDiv_Round_8u_C1RSfs(&one, 1, &one, 1, &one, 1, {1, 1}, 3, 0), pxlStatusBadRoundMode);
+}
+
+// The quotient rows convert under the nearest mode and take -0 divisors as +0: a caller's other
+// rounding mode changes no result and is in force again afterwards.
+TEST(Div, ResultsDoNotDependOnTheCallersRoundingMode)
+{
+    Rng rng(64);
+    auto check = [&](auto sample, auto call) {
+        using T = decltype(sample);
+        const auto a = randomImage<T>(37, 3, 1, rng, 0.3), b = randomImage<T>(37, 3, 1, rng, 0.3);
+        const auto start = randomImage<T>(37, 3, 1, rng);
+        auto want = start;
+        ASSERT_GE(call(a, b, want), pxlStatusOk);
+        for (int mode : {FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+            auto got = start;
+            ASSERT_EQ(std::fesetround(mode), 0);
+            const PxlStatus st = call(a, b, got);
+            const int after = std::fegetround();
+            std::fesetround(FE_TONEAREST);
+            EXPECT_EQ(after, mode);
+            ASSERT_GE(st, pxlStatusOk);
+            EXPECT_TRUE(regionsEqual(got, want)) << "mode " << mode << " " << sizeof(T);
+        }
+    };
+    for (int f : {-3, 0, 1}) {
+        check(Pxl8u{}, [&](const auto& a, const auto& b, auto& d) { return pxliDiv_8u_C1RSfs(a.data(), a.step(), b.data(), b.step(), d.data(), d.step(), a.size(), f); });
+        check(Pxl16s{}, [&](const auto& a, const auto& b, auto& d) { return pxliDiv_16s_C1RSfs(a.data(), a.step(), b.data(), b.step(), d.data(), d.step(), a.size(), f); });
+    }
+    check(Pxl32f{}, [&](const auto& a, const auto& b, auto& d) { return pxliDiv_32f_C1R(a.data(), a.step(), b.data(), b.step(), d.data(), d.step(), a.size()); });
+    check(Pxl32f{}, [&](const auto& a, const auto& b, auto& d) { return pxliDiv_32f_AC4R(a.data(), a.step(), b.data(), b.step(), d.data(), d.step(), {9, 3}); });
 }
 
 TEST(Div32f, QuotientsZeroDivisorsAndTheReciprocalOfDivC)
