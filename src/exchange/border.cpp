@@ -25,23 +25,6 @@ template <class S, class L> inline void putPixel(S* d, const S* s)
     for (int c = 0; c < L::proc; ++c) d[c] = s[c];
 }
 
-// One whole destination row from another (or from a row of the source): AC4 keeps alpha.
-template <class S, class L> inline void copyPixels(const S* s, S* d, int width)
-{
-    if constexpr (L::hasAlpha) krnCopyAC4Row(s, d, width);
-    else krnCopyBytes(s, d, static_cast<std::size_t>(width) * L::mem * sizeof(S));
-}
-
-template <class S, class L> inline void fillPixels(S* d, int width, const S* value)
-{
-    if constexpr (L::hasAlpha) {
-        for (int x = 0; x < width; ++x) putPixel<S, L>(d + 4 * x, value);
-    } else {
-        krnFillPattern(value, L::mem * static_cast<int>(sizeof(S)), reinterpret_cast<char*>(d), 0,
-                       static_cast<std::size_t>(width) * L::mem * sizeof(S), 1);
-    }
-}
-
 struct Geometry {
     PxliSize src, dst;
     int top, left;
@@ -58,8 +41,8 @@ void makeFrame(const S* src, int srcStep, S* frame, int dstStep, const Geometry&
         const S* s = rowAt(src, srcStep, i);
         S* d = rowAt(frame, dstStep, g.top + i);
         if constexpr (R == Rule::Constant) {
-            fillPixels<S, L>(d, g.left, value);
-            fillPixels<S, L>(d + std::ptrdiff_t{N} * right, g.dst.width - right, value);
+            krnFillPixels<S, L>(value, d, 0, g.left, 1);
+            krnFillPixels<S, L>(value, d + std::ptrdiff_t{N} * right, 0, g.dst.width - right, 1);
         } else if constexpr (R == Rule::Replicate) {
             // The edge pixels themselves, repeated: one fixed source per side.
             const S* first = s;
@@ -70,13 +53,13 @@ void makeFrame(const S* src, int srcStep, S* frame, int dstStep, const Geometry&
             for (int x = 0; x < g.left; ++x) putPixel<S, L>(d + N * x, s + N * sourceIndex<R>(x - g.left, W));
             for (int x = right; x < g.dst.width; ++x) putPixel<S, L>(d + std::ptrdiff_t{N} * x, s + N * sourceIndex<R>(x - g.left, W));
         }
-        if (!inPlace) copyPixels<S, L>(s, d + std::ptrdiff_t{N} * g.left, W);
+        if (!inPlace) krnCopyPixels<S, L>(s, d + std::ptrdiff_t{N} * g.left, W);
     }
     for (int y = 0; y < g.dst.height; ++y) {
         if (y >= g.top && y < g.top + H) continue;
         S* d = rowAt(frame, dstStep, y);
-        if constexpr (R == Rule::Constant) fillPixels<S, L>(d, g.dst.width, value);
-        else copyPixels<S, L>(rowAt(frame, dstStep, g.top + sourceIndex<R>(y - g.top, H)), d, g.dst.width);
+        if constexpr (R == Rule::Constant) krnFillPixels<S, L>(value, d, 0, g.dst.width, 1);
+        else krnCopyPixels<S, L>(rowAt(frame, dstStep, g.top + sourceIndex<R>(y - g.top, H)), d, g.dst.width);
     }
 }
 

@@ -25,9 +25,6 @@ template <class S> PxlStatus copyWideAC4(const S* pSrc, int srcStep, S* pDst, in
 PxlStatus copyManaged(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roi, int flags);
 template <int N> PxlStatus dup(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roi);
 
-// Region copy with no checks, for families that have made their own.
-template <class S, class L> void copyRegion(const S* src, int srcStep, S* dst, int dstStep, PxliSize roi);
-
 // Transpose, mirror, channel swaps.
 template <class S, int N> PxlStatus transpose(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi);
 template <class S, int N> PxlStatus transposeInPlace(S* pSrcDst, int step, PxliSize roi);

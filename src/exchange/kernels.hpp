@@ -1,10 +1,11 @@
-// Row kernels that several families share: the library's one byte mover, fills and the copy of
-// the first three samples of four-sample pixels.
+// Row kernels that several families share: the library's one byte mover, and fills and copies of
+// rows of pixels of any layout.
 #pragma once
 
 #include "frame/image.hpp"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 
 namespace pxl {
@@ -36,14 +37,39 @@ inline void krnFillPattern(const void* pixel, int pixelBytes, char* dst, int ste
     }
 }
 
-// Moves the first three samples of each four-sample pixel; the destination's fourth stays.
-template <class S>
-inline void krnCopyAC4Row(const S* src, S* dst, int width)
+// Copies a row of `width` pixels of layout L; AC4 moves the first three samples of each pixel
+// and leaves the destination's fourth.
+template <class S, class L>
+inline void krnCopyPixels(const S* src, S* dst, int width)
 {
-    for (int x = 0; x < width; ++x) {
-        dst[4 * x + 0] = src[4 * x + 0];
-        dst[4 * x + 1] = src[4 * x + 1];
-        dst[4 * x + 2] = src[4 * x + 2];
+    if constexpr (L::hasAlpha) {
+        for (std::ptrdiff_t x = 0; x < width; ++x) {
+            dst[4 * x + 0] = src[4 * x + 0];
+            dst[4 * x + 1] = src[4 * x + 1];
+            dst[4 * x + 2] = src[4 * x + 2];
+        }
+    } else {
+        krnCopyBytes(src, dst, static_cast<std::size_t>(width) * L::mem * sizeof(S));
+    }
+}
+
+// Fills `rows` rows of `width` pixels of layout L with one pixel; AC4 leaves the fourth sample.
+template <class S, class L>
+inline void krnFillPixels(const S* pixel, S* dst, int step, int width, int rows)
+{
+    if constexpr (L::hasAlpha) {
+        const S v0 = pixel[0], v1 = pixel[1], v2 = pixel[2];
+        for (int y = 0; y < rows; ++y) {
+            S* d = rowAt(dst, step, y);
+            for (std::ptrdiff_t x = 0; x < width; ++x) {
+                d[4 * x] = v0;
+                d[4 * x + 1] = v1;
+                d[4 * x + 2] = v2;
+            }
+        }
+    } else {
+        krnFillPattern(pixel, L::mem * static_cast<int>(sizeof(S)), reinterpret_cast<char*>(dst), step,
+                       static_cast<std::size_t>(width) * L::mem * sizeof(S), rows);
     }
 }
 

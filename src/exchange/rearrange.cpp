@@ -274,14 +274,12 @@ PxlStatus mirror(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi,
     if (!pSrc || !pDst) return pxlStatusNullPointer;
     if (badSize(roi)) return pxlStatusBadSize;
     if (flip < pxlAxisHorizontal || flip > pxlAxisBoth) return pxlStatusBadAxis;
-    const int w = roi.width, h = roi.height, m = L::mem;
-    const std::size_t rowBytes = static_cast<std::size_t>(w) * m * sizeof(S);
+    const int w = roi.width, h = roi.height;
     for (int y = 0; y < h; ++y) {
         const S* s = rowAt(pSrc, srcStep, y);
         S* d = rowAt(pDst, dstStep, flip == pxlAxisVertical ? y : h - 1 - y);
         if (flip == pxlAxisHorizontal) {
-            if constexpr (L::hasAlpha) krnCopyAC4Row(s, d, w);
-            else krnCopyBytes(s, d, rowBytes);
+            krnCopyPixels<S, L>(s, d, w);
         } else {
             reverseRow<S, L>(s, d, w);
         }

@@ -13,25 +13,12 @@ template <class S, class L> constexpr std::size_t kPixelBytes = sizeof(S) * L::m
 
 inline std::size_t bytesOf(int count, std::size_t unit) { return static_cast<std::size_t>(count) * unit; }
 
+// A region filled with one pixel; gap-free rows are filled as one.
 template <class S, class L>
 void fillRegion(const S* pixel, S* dst, int dstStep, PxliSize roi)
 {
-    if constexpr (L::hasAlpha) {
-        const S v0 = pixel[0], v1 = pixel[1], v2 = pixel[2];
-        for (int y = 0; y < roi.height; ++y) {
-            S* d = rowAt(dst, dstStep, y);
-            for (int x = 0; x < roi.width; ++x) {
-                d[4 * x] = v0;
-                d[4 * x + 1] = v1;
-                d[4 * x + 2] = v2;
-            }
-        }
-    } else {
-        const std::size_t rowBytes = bytesOf(roi.width, kPixelBytes<S, L>);
-        const PxliSize r = mergedRows(roi, static_cast<std::size_t>(dstStep) == rowBytes);
-        krnFillPattern(pixel, static_cast<int>(kPixelBytes<S, L>), reinterpret_cast<char*>(dst), dstStep,
-                       bytesOf(r.width, kPixelBytes<S, L>), r.height);
-    }
+    const PxliSize r = mergedRows(roi, static_cast<std::size_t>(dstStep) == bytesOf(roi.width, kPixelBytes<S, L>));
+    krnFillPixels<S, L>(pixel, dst, dstStep, r.width, r.height);
 }
 
 template <class S, class L>
@@ -99,17 +86,17 @@ PxlStatus setPixelsMasked(const S* value, S* pDst, int dstStep, PxliSize roi, co
 
 // ---- Copy ------------------------------------------------------------------------------------
 
+namespace {
+// A region copied; gap-free rows move as one.
 template <class S, class L>
 void copyRegion(const S* src, int srcStep, S* dst, int dstStep, PxliSize roi)
 {
     const std::size_t rowBytes = bytesOf(roi.width, kPixelBytes<S, L>);
     const PxliSize r = mergedRows(roi, static_cast<std::size_t>(srcStep) == rowBytes &&
                                            static_cast<std::size_t>(dstStep) == rowBytes);
-    for (int y = 0; y < r.height; ++y) {
-        if constexpr (L::hasAlpha) krnCopyAC4Row(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), r.width);
-        else krnCopyBytes(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), bytesOf(r.width, kPixelBytes<S, L>));
-    }
+    for (int y = 0; y < r.height; ++y) krnCopyPixels<S, L>(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), r.width);
 }
+}  // namespace
 
 template <class S, class L>
 PxlStatus copy(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi)
@@ -219,24 +206,19 @@ PxlStatus copyWideAC4(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize
     if (!pSrc || !pDst) return pxlStatusNullPointer;
     if (roi.width < 1 || roi.height < 1) return pxlStatusBadSize;
     constexpr int kSlicePixels = static_cast<int>(kSliceBytes / static_cast<int64_t>(kPixelBytes<S, AC4>));
-    PxlStatus status = pxlStatusOk;
     for (int y = 0; y < roi.height; ++y) {
         const S* s = rowAt(pSrc, srcStep, y);
         S* d = rowAt(pDst, dstStep, y);
-        for (int x = 0; x < roi.width; x += kSlicePixels) {
-            const int n = std::min(kSlicePixels, roi.width - x);
-            status = copy<S, AC4>(s + std::ptrdiff_t{4} * x, srcStep, d + std::ptrdiff_t{4} * x, dstStep, {n, 1});
-        }
+        for (int x = 0; x < roi.width; x += kSlicePixels)
+            krnCopyPixels<S, AC4>(s + std::ptrdiff_t{4} * x, d + std::ptrdiff_t{4} * x, std::min(kSlicePixels, roi.width - x));
     }
-    return status;
+    return pxlStatusOk;
 }
 
 // ---- CopyManaged, Dup --------------------------------------------------------------------------
 
 PxlStatus copyManaged(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roi, int /*flags*/)
 {
-    if (!pSrc || !pDst) return pxlStatusNullPointer;
-    if (badSize(roi)) return pxlStatusBadSize;
     return copy<Pxl8u, C1>(pSrc, srcStep, pDst, dstStep, roi);
 }
 
