@@ -1,10 +1,8 @@
 // Bitwise logic and shifts. Every form is one operation per sample with no scale and no
 // saturation; the checks are pointers, steps below 1, sizes.
-#include "arithmetic/arithmetic.hpp"
-#include "arithmetic/rows.hpp"
+#include "arithmetic/binary.hpp"
 #include "frame/bind.hpp"
 
-#include <algorithm>
 #include <cstdint>
 #include <type_traits>
 
@@ -108,16 +106,9 @@ PxlStatus shiftArray(const T* pSrc, int srcStep, const Pxl32u* count, T* pDst, i
     uint32_t n[4] = {};
     for (int c = 0; c < L::proc; ++c) n[c] = count[c];
     if constexpr (L::mem == 1) {
-        if (n[0] == 0) {
-            if (static_cast<const void*>(pSrc) != static_cast<const void*>(pDst) || srcStep != dstStep)
-                for (int y = 0; y < roi.height; ++y)
-                    std::copy(rowAt(pSrc, srcStep, y), rowAt(pSrc, srcStep, y) + roi.width, rowAt(pDst, dstStep, y));
-            return pxlStatusOk;
-        }
-        if ((Left || std::is_unsigned_v<T>) && n[0] >= 8 * sizeof(T)) {
-            for (int y = 0; y < roi.height; ++y) std::fill(rowAt(pDst, dstStep, y), rowAt(pDst, dstStep, y) + roi.width, T(0));
-            return pxlStatusOk;
-        }
+        if (n[0] == 0) return takeShortcut(Shortcut::Copy, pSrc, srcStep, pDst, dstStep, roi);
+        if ((Left || std::is_unsigned_v<T>) && n[0] >= 8 * sizeof(T))
+            return takeShortcut(Shortcut::SetZero, pSrc, srcStep, pDst, dstStep, roi);
     }
     constantRows<T, uint32_t, L>(pSrc, srcStep, n, pDst, dstStep, roi, [](uint32_t k, T x) { return shiftSample<T, Left>(x, k); });
     return pxlStatusOk;
