@@ -1,6 +1,7 @@
 // Thresholds and comparisons. A threshold replaces the samples strictly above (GT) or below (LT)
 // a limit; every form is one select per sample, so NaN (which compares false) is never replaced.
 // A comparison writes 255 where a relation holds in every processed channel of a pixel.
+#include "arithmetic/rows.hpp"
 #include "exchange/exchange.hpp"
 #include "frame/bind.hpp"
 
@@ -14,34 +15,17 @@ namespace {
 
 enum class Side { Above, Below, Both };
 
-// The per-channel limits of one call: thresholds and replacement values, for the lower (LT) and
-// the upper (GT) side.
-template <class T> struct Limits {
-    T lowT[4], lowV[4], highT[4], highV[4];
+// One channel's limits: threshold and replacement value for the lower (LT) and the upper (GT)
+// side.
+template <class T> struct Limit {
+    T lowT, lowV, highT, highV;
 };
 
-template <class T, Side S> inline T thresholdSample(T x, T lowT, T lowV, T highT, T highV)
+template <class T, Side S> inline T thresholdSample(const Limit<T>& k, T x)
 {
-    if constexpr (S == Side::Above) return x > highT ? highV : x;
-    else if constexpr (S == Side::Below) return x < lowT ? lowV : x;
-    else return x > highT ? highV : (x < lowT ? lowV : x);
-}
-
-template <class T, class L, Side S>
-void thresholdRows(const T* src, int srcStep, T* dst, int dstStep, PxliSize roi, const Limits<T>& k)
-{
-    for (int y = 0; y < roi.height; ++y) {
-        const T* s = rowAt(src, srcStep, y);
-        T* d = rowAt(dst, dstStep, y);
-        if constexpr (L::mem == 1) {
-            const T lowT = k.lowT[0], lowV = k.lowV[0], highT = k.highT[0], highV = k.highV[0];
-            for (int x = 0; x < roi.width; ++x) d[x] = thresholdSample<T, S>(s[x], lowT, lowV, highT, highV);
-        } else {
-            for (int x = 0; x < roi.width; ++x)
-                for (int c = 0; c < L::proc; ++c)
-                    d[L::mem * x + c] = thresholdSample<T, S>(s[L::mem * x + c], k.lowT[c], k.lowV[c], k.highT[c], k.highV[c]);
-        }
-    }
+    if constexpr (S == Side::Above) return x > k.highT ? k.highV : x;
+    else if constexpr (S == Side::Below) return x < k.lowT ? k.lowV : x;
+    else return x > k.highT ? k.highV : (x < k.lowT ? k.lowV : x);
 }
 
 // Pointers (images, then the arrays), sizes, steps below 1.
@@ -55,18 +39,18 @@ PxlStatus runThreshold(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSiz
     }
     if (badSize(roi)) return pxlStatusBadSize;
     if (srcStep < 1 || dstStep < 1) return pxlStatusBadStep;
-    Limits<T> k{};
+    Limit<T> k[4] = {};
     for (int c = 0; c < L::proc; ++c) {
         if constexpr (S == Side::Both) {
             if (t2[c] < t1[c]) return pxlStatusBadThresholds;  // upper below lower; equal is allowed
-            k.lowT[c] = t1[c], k.lowV[c] = v1[c], k.highT[c] = t2[c], k.highV[c] = v2[c];
+            k[c] = {t1[c], v1[c], t2[c], v2[c]};
         } else if constexpr (S == Side::Above) {
-            k.highT[c] = t1[c], k.highV[c] = v1[c];
+            k[c].highT = t1[c], k[c].highV = v1[c];
         } else {
-            k.lowT[c] = t1[c], k.lowV[c] = v1[c];
+            k[c].lowT = t1[c], k[c].lowV = v1[c];
         }
     }
-    thresholdRows<T, L, S>(pSrc, srcStep, pDst, dstStep, roi, k);
+    constantRows<T, Limit<T>, L>(pSrc, srcStep, k, pDst, dstStep, roi, [](Limit<T> kc, T x) { return thresholdSample<T, S>(kc, x); });
     return pxlStatusOk;
 }
 
@@ -195,18 +179,35 @@ template <int Code, class T> inline bool relation(T a, T b)
     else return a > b;
 }
 
-// 255 where holds(x, c) is true for every processed channel c of the pixel, else 0.
+// 255 where holds(first, second) is true for every processed channel of the pixel, else 0.
 template <class T, class L, class Holds>
-void maskRows(const T* src, int srcStep, Pxl8u* dst, int dstStep, PxliSize roi, Holds holds, const T* second, int secondStep)
+void maskPairRows(const T* a, int as, const T* b, int bs, Pxl8u* d, int ds, PxliSize roi, Holds holds)
 {
     for (int y = 0; y < roi.height; ++y) {
-        const T* s = rowAt(src, srcStep, y);
-        const T* t = second ? rowAt(second, secondStep, y) : nullptr;
-        Pxl8u* d = rowAt(dst, dstStep, y);
+        const T* ra = rowAt(a, as, y);
+        const T* rb = rowAt(b, bs, y);
+        Pxl8u* rd = rowAt(d, ds, y);
         for (int x = 0; x < roi.width; ++x) {
             bool all = true;
-            for (int c = 0; c < L::proc; ++c) all = all & holds(s[L::mem * x + c], t ? t[L::mem * x + c] : T(0), c);
-            d[x] = all ? 255 : 0;
+            for (int c = 0; c < L::proc; ++c) all = all & holds(ra[L::mem * x + c], rb[L::mem * x + c]);
+            rd[x] = all ? 255 : 0;
+        }
+    }
+}
+
+// 255 where holds(sample, value of its channel) is true for every processed channel, else 0.
+template <class T, class V, class L, class Holds>
+void maskConstantRows(const T* s, int ss, const V* value, Pxl8u* d, int ds, PxliSize roi, Holds holds)
+{
+    V v[4] = {};
+    for (int c = 0; c < L::proc; ++c) v[c] = value[c];
+    for (int y = 0; y < roi.height; ++y) {
+        const T* rs = rowAt(s, ss, y);
+        Pxl8u* rd = rowAt(d, ds, y);
+        for (int x = 0; x < roi.width; ++x) {
+            bool all = true;
+            for (int c = 0; c < L::proc; ++c) all = all & holds(rs[L::mem * x + c], v[c]);
+            rd[x] = all ? 255 : 0;
         }
     }
 }
@@ -233,17 +234,8 @@ PxlStatus compare(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, Px
     if (src1Step < 1 || src2Step < 1 || dstStep < 1) return pxlStatusBadStep;
     if (badSize(roi)) return pxlStatusBadSize;
     withCmp(cmp, [&](auto code) {
-        constexpr int Code = decltype(code)::value;
-        if constexpr (L::mem == 1) {
-            for (int y = 0; y < roi.height; ++y) {
-                const T* a = rowAt(pSrc1, src1Step, y);
-                const T* b = rowAt(pSrc2, src2Step, y);
-                Pxl8u* d = rowAt(pDst, dstStep, y);
-                for (int x = 0; x < roi.width; ++x) d[x] = relation<Code>(a[x], b[x]) ? 255 : 0;
-            }
-        } else {
-            maskRows<T, L>(pSrc1, src1Step, pDst, dstStep, roi, [](T a, T b, int) { return relation<Code>(a, b); }, pSrc2, src2Step);
-        }
+        maskPairRows<T, L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi,
+                           [](T a, T b) { return relation<decltype(code)::value>(a, b); });
     });
     return pxlStatusOk;
 }
@@ -254,20 +246,9 @@ PxlStatus compareArray(const T* pSrc, int srcStep, const T* value, Pxl8u* pDst, 
     if (!pSrc || !value || !pDst) return pxlStatusNullPointer;
     if (srcStep < 1 || dstStep < 1) return pxlStatusBadStep;
     if (badSize(roi)) return pxlStatusBadSize;
-    T v[4] = {};
-    for (int c = 0; c < L::proc; ++c) v[c] = value[c];
     withCmp(cmp, [&](auto code) {
-        constexpr int Code = decltype(code)::value;
-        if constexpr (L::mem == 1) {
-            const T v0 = v[0];
-            for (int y = 0; y < roi.height; ++y) {
-                const T* a = rowAt(pSrc, srcStep, y);
-                Pxl8u* d = rowAt(pDst, dstStep, y);
-                for (int x = 0; x < roi.width; ++x) d[x] = relation<Code>(a[x], v0) ? 255 : 0;
-            }
-        } else {
-            maskRows<T, L>(pSrc, srcStep, pDst, dstStep, roi, [&v](T a, T, int c) { return relation<Code>(a, v[c]); }, nullptr, 0);
-        }
+        maskConstantRows<T, T, L>(pSrc, srcStep, value, pDst, dstStep, roi,
+                                  [](T a, T v) { return relation<decltype(code)::value>(a, v); });
     });
     return pxlStatusOk;
 }
@@ -289,8 +270,8 @@ PxlStatus compareEqualEps(const Pxl32f* pSrc1, int src1Step, const Pxl32f* pSrc2
     if (badSize(roi)) return pxlStatusBadSize;
     if (eps < 0.0f) return pxlStatusBadEps;
     const double e = eps;
-    maskRows<Pxl32f, L>(pSrc1, src1Step, pDst, dstStep, roi, [e](Pxl32f a, Pxl32f b, int) { return std::fabs(double(a) - double(b)) <= e; },
-                        pSrc2, src2Step);
+    maskPairRows<Pxl32f, L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi,
+                            [e](Pxl32f a, Pxl32f b) { return std::fabs(double(a) - double(b)) <= e; });
     return pxlStatusOk;
 }
 
@@ -302,10 +283,8 @@ PxlStatus compareEqualEpsArray(const Pxl32f* pSrc, int srcStep, const Pxl32f* va
     if (badSize(roi)) return pxlStatusBadSize;
     if (eps < 0.0f) return pxlStatusBadEps;
     const double e = eps;
-    double v[4] = {};
-    for (int c = 0; c < L::proc; ++c) v[c] = value[c];
-    maskRows<Pxl32f, L>(pSrc, srcStep, pDst, dstStep, roi, [e, &v](Pxl32f a, Pxl32f, int c) { return std::fabs(double(a) - v[c]) <= e; },
-                        nullptr, 0);
+    maskConstantRows<Pxl32f, Pxl32f, L>(pSrc, srcStep, value, pDst, dstStep, roi,
+                                        [e](Pxl32f a, Pxl32f v) { return std::fabs(double(a) - double(v)) <= e; });
     return pxlStatusOk;
 }
 
