@@ -158,26 +158,33 @@ namespace {
 template <class T>
 constexpr bool kQuotientRows = std::is_same_v<T, Pxl32f> || std::is_same_v<T, Pxl8u> || std::is_same_v<T, Pxl16s>;
 
-// One row; returns whether a divisor was zero.
-template <class T> bool quotientRow(const T* a, const T* b, T* d, int n, int f)
-{
-    if constexpr (std::is_same_v<T, Pxl32f>) {
-        int zeros = 0;
-        for (int i = 0; i < n; ++i) {
-            d[i] = rawQuotient(a[i], b[i]);
-            zeros |= a[i] == 0.0f;
+// The rows of one call, with the factors made once; each row returns whether a divisor was zero.
+template <class T> class QuotientRows {
+public:
+    explicit QuotientRows(int f) : scale_(f), tail_(f) {}
+    bool operator()(const T* a, const T* b, T* d, int n) const
+    {
+        if constexpr (std::is_same_v<T, Pxl32f>) {
+            int zeros = 0;
+            for (int i = 0; i < n; ++i) {
+                d[i] = rawQuotient(a[i], b[i]);
+                zeros |= a[i] == 0.0f;
+            }
+            if (zeros == 0) return false;
+            for (int i = 0; i < n; ++i) d[i] = zeroDivisorNaN(a[i], d[i]);
+            return true;
+        } else {
+            bool zero = false;
+            int i = krnQuotientRow(a, b, d, n, scale_, zero);
+            for (; i < n; ++i) d[i] = tail_(a[i], b[i], zero);
+            return zero;
         }
-        if (zeros == 0) return false;
-        for (int i = 0; i < n; ++i) d[i] = zeroDivisorNaN(a[i], d[i]);
-        return true;
-    } else {
-        bool zero = false;
-        int i = krnQuotientRow(a, b, d, n, f, zero);
-        const IntegerQuotient<T, 1> quotient(f);
-        for (; i < n; ++i) d[i] = quotient(a[i], b[i], zero);
-        return zero;
     }
-}
+
+private:
+    QuotientScale scale_;
+    IntegerQuotient<T, 1> tail_;
+};
 }  // namespace
 
 template <class T, class L>
@@ -189,9 +196,9 @@ PxlStatus divide(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* 
     bool zero = false;
     if constexpr (kQuotientRows<T> && !L::hasAlpha) {
         if (!std::is_same_v<T, Pxl16s> || f >= 0) {
+            const QuotientRows<T> rows(f);
             for (int y = 0; y < roi.height; ++y)
-                zero |= quotientRow<T>(rowAt(pSrc1, src1Step, y), rowAt(pSrc2, src2Step, y), rowAt(pDst, dstStep, y),
-                                       roi.width * L::mem, f);
+                zero |= rows(rowAt(pSrc1, src1Step, y), rowAt(pSrc2, src2Step, y), rowAt(pDst, dstStep, y), roi.width * L::mem);
             return divStatus(zero);
         }
     }

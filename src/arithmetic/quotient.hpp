@@ -23,22 +23,39 @@
 
 namespace pxl {
 
+// The factors of one call's rows: 2^-f, and the cut of 8u dividends. 2^-40 makes every quotient
+// 0, and from 2^16 on every non-zero 8u dividend is cut to 2^16, so the factor is held within
+// those (16s comes here with f >= 0 only).
+struct QuotientScale {
+    explicit QuotientScale(int f)
+    {
+        const int e = f < -16 ? -16 : f > 40 ? 40 : f;
+        scale = std::ldexp(1.0f, -e);
+        cut = e < 0 ? int32_t{1} << (16 + e) : int32_t{1} << 16;
+    }
+    float scale;
+    int32_t cut;
+};
+
 // Does the leading samples of a row, as many as whole vectors cover, and returns their count;
 // `zero` is set when a divisor among them was zero. The rest is the caller's.
 template <class T>
 inline int krnQuotientRow([[maybe_unused]] const T* a, [[maybe_unused]] const T* b, [[maybe_unused]] T* d,
-                          [[maybe_unused]] int n, [[maybe_unused]] int f, [[maybe_unused]] bool& zero)
+                          [[maybe_unused]] int n, [[maybe_unused]] const QuotientScale& factors, [[maybe_unused]] bool& zero)
 {
     static_assert(std::is_same_v<T, uint8_t> || std::is_same_v<T, int16_t>);
     int i = 0;
 #if defined(__SSE4_1__)
     constexpr bool kBytes = sizeof(T) == 1;
-    // 2^-40 makes every quotient 0, and from 2^16 on every non-zero 8u dividend is cut to
-    // 2^16, so the factor is held within those (16s comes here with f >= 0 only).
-    const int e = f < -16 ? -16 : f > 40 ? 40 : f;
-    const float scale = std::ldexp(1.0f, -e);
-    const int32_t cut = e < 0 ? int32_t{1} << (16 + e) : int32_t{1} << 16;
+    const float scale = factors.scale;
+    const int32_t cut = factors.cut;
 #if defined(__AVX512F__)
+#if defined(__GNUC__) && !defined(__clang__)
+    // GCC's 512-bit intrinsics pass an undefined vector for the lanes no mask drops and then warn
+    // about it after inlining.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
     {
         const __m512 m = _mm512_set1_ps(scale);
         const __m512i one = _mm512_set1_epi32(1), cut16 = _mm512_set1_epi32(cut);
@@ -61,6 +78,9 @@ inline int krnQuotientRow([[maybe_unused]] const T* a, [[maybe_unused]] const T*
         }
         zero |= seen != 0;
     }
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic pop
+#endif
 #endif
 #if defined(__AVX2__)
     {
