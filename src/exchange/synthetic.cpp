@@ -65,9 +65,10 @@ template <class T> inline T addNoise(T x, double amount)
     }
 }
 
-inline PxlStatus checkNoise(const void* p, const Pxl32u* seed, PxliSize roi, int step)
+// The checks of every form: pointers, sizes, a step below 1.
+inline PxlStatus checkImage(bool nullPointer, PxliSize roi, int step)
 {
-    if (!p || !seed) return pxlStatusNullPointer;
+    if (nullPointer) return pxlStatusNullPointer;
     if (badSize(roi)) return pxlStatusBadSize;
     if (step < 1) return pxlStatusBadStep;
     return pxlStatusOk;
@@ -88,7 +89,7 @@ template <class T> inline T storeValue(double v)
 template <class T, class L>
 PxlStatus addRandUniform(T* pSrcDst, int step, PxliSize roi, T low, T high, Pxl32u* pSeed)
 {
-    if (const PxlStatus st = checkNoise(pSrcDst, pSeed, roi, step); st != pxlStatusOk) return st;
+    if (const PxlStatus st = checkImage(!pSrcDst || !pSeed, roi, step); st != pxlStatusOk) return st;
     NoiseGenerator gen(*pSeed);
     const double a = (double(high) - double(low)) * 2.3283064365387e-10, b = (double(high) + double(low)) * 0.5;
     forEachSample<T, L>(pSrcDst, step, roi, [&](T& x, int, int) { x = addNoise<T>(x, double(gen.next()) * a + b); });
@@ -102,7 +103,7 @@ PxlStatus addRandUniform(T* pSrcDst, int step, PxliSize roi, T low, T high, Pxl3
 template <class T, class L>
 PxlStatus addRandGauss(T* pSrcDst, int step, PxliSize roi, Pxl32f mean, Pxl32f stdDev, Pxl32u* pSeed)
 {
-    if (const PxlStatus st = checkNoise(pSrcDst, pSeed, roi, step); st != pxlStatusOk) return st;
+    if (const PxlStatus st = checkImage(!pSrcDst || !pSeed, roi, step); st != pxlStatusOk) return st;
     NoiseGenerator gen(*pSeed);
     constexpr double kUnit = 1.0 / 4294967296.0;
     forEachSample<T, L>(pSrcDst, step, roi, [&](T& x, int, int) {
@@ -119,9 +120,7 @@ PxlStatus addRandGauss(T* pSrcDst, int step, PxliSize roi, Pxl32f mean, Pxl32f s
 // pixel) at d = R. Stored as 0..255, 0..65535, -32767..32767, or -1..1 by type.
 template <class T, class L> PxlStatus imageJaehne(T* pDst, int step, PxliSize roi)
 {
-    if (!pDst) return pxlStatusNullPointer;
-    if (badSize(roi)) return pxlStatusBadSize;
-    if (step < 1) return pxlStatusBadStep;
+    if (const PxlStatus st = checkImage(!pDst, roi, step); st != pxlStatusOk) return st;
     const double cx = (roi.width - 1) * 0.5, cy = (roi.height - 1) * 0.5;
     const double r = std::max(roi.width, roi.height) * 0.5;
     forEachSample<T, L>(pDst, step, roi, [&](T& v, int x, int y) {
@@ -136,18 +135,19 @@ template <class T, class L> PxlStatus imageJaehne(T* pDst, int step, PxliSize ro
 }
 
 // offset + slope * t, t the column (axis 0), the row (axis 1) or their product (axis 2), in
-// double, then rounded and saturated. Checks: pointer, sizes, step, axis.
+// double, then rounded and saturated; the axis picks the loop once. Checks: pointer, sizes, step,
+// axis.
 template <class T, class L> PxlStatus imageRamp(T* pDst, int step, PxliSize roi, Pxl32f offset, Pxl32f slope, PxlAxis axis)
 {
-    if (!pDst) return pxlStatusNullPointer;
-    if (badSize(roi)) return pxlStatusBadSize;
-    if (step < 1) return pxlStatusBadStep;
+    if (const PxlStatus st = checkImage(!pDst, roi, step); st != pxlStatusOk) return st;
     if (axis < 0 || axis > 2) return pxlStatusBadAxis;
     const double o = offset, k = slope;
-    forEachSample<T, L>(pDst, step, roi, [&](T& v, int x, int y) {
-        const double t = axis == 0 ? double(x) : axis == 1 ? double(y) : double(x) * double(y);
-        v = storeValue<T>(o + k * t);
-    });
+    auto ramp = [&](auto position) {
+        forEachSample<T, L>(pDst, step, roi, [&](T& v, int x, int y) { v = storeValue<T>(o + k * position(x, y)); });
+    };
+    if (axis == 0) ramp([](int x, int) { return double(x); });
+    else if (axis == 1) ramp([](int, int y) { return double(y); });
+    else ramp([](int x, int y) { return double(x) * double(y); });
     return pxlStatusOk;
 }
 
