@@ -9,7 +9,7 @@ constexpr int W = 1920, H = 1080;
 enum class Peer { Add, Sub, Mul, Div, And, Or, Xor };
 
 template <class T, class Ours>
-void op(const std::string& name, int channels, [[maybe_unused]] int cvType, Peer peer, Ours ours)
+void op(const std::string& name, int channels, [[maybe_unused]] pxlbench::MatType peerType, Peer peer, Ours ours)
 {
     const int pb = channels * static_cast<int>(sizeof(T));
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
@@ -26,7 +26,7 @@ void op(const std::string& name, int channels, [[maybe_unused]] int cvType, Peer
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, pb), b(W, H, pb), d(W, H, pb);
         if constexpr (std::is_same_v<T, Pxl32f>) { a.fillFloats(0.5f, 300.0f); b.fillFloats(-1.0f, 1.0f); }
-        cv::Mat ma = a.mat(cvType), mb = b.mat(cvType), md = d.mat(cvType);
+        cv::Mat ma = a.mat(peerType), mb = b.mat(peerType), md = d.mat(peerType);
         for (auto _ : s) {
             switch (peer) {
             case Peer::Add: cv::add(ma, mb, md); break;
@@ -47,23 +47,12 @@ void op(const std::string& name, int channels, [[maybe_unused]] int cvType, Peer
 
 #define PXLB_SFS(fn) [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) { return fn(a, as, b, bs, d, ds, r, 0); }
 #define PXLB_F(fn) [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) { return fn(a, as, b, bs, d, ds, r); }
-#ifndef PXL_BENCH_OPENCV
-#define CV_8UC1 0
-#define CV_8UC3 0
-#define CV_16SC1 0
-#define CV_16SC3 0
-#define CV_32FC1 0
-#define CV_32FC3 0
-#define CV_16UC1 0
-#define CV_32SC1 0
-#endif
-
 void arithmeticBenchmarks()
 {
     const std::string sz = "/1920x1080";
-    op<Pxl8u>("Add 8u C1" + sz, 1, CV_8UC1, Peer::Add, PXLB_SFS(pxliAdd_8u_C1RSfs));
-    op<Pxl8u>("Add 8u C3" + sz, 3, CV_8UC3, Peer::Add, PXLB_SFS(pxliAdd_8u_C3RSfs));
-    op<Pxl8u>("Sub 8u C1" + sz, 1, CV_8UC1, Peer::Sub, PXLB_SFS(pxliSub_8u_C1RSfs));
+    op<Pxl8u>("Add 8u C1" + sz, 1, pxlbench::k8uC1, Peer::Add, PXLB_SFS(pxliAdd_8u_C1RSfs));
+    op<Pxl8u>("Add 8u C3" + sz, 3, pxlbench::k8uC3, Peer::Add, PXLB_SFS(pxliAdd_8u_C3RSfs));
+    op<Pxl8u>("Sub 8u C1" + sz, 1, pxlbench::k8uC1, Peer::Sub, PXLB_SFS(pxliSub_8u_C1RSfs));
     // With a scale (no peer has one): the exact rounding costs over the plain saturating sum.
     pxlbench::add("Add 8u C1 f=1" + sz, "pxl", [](benchmark::State& s) {
         pxlbench::Image a(W, H, 1), b(W, H, 1), d(W, H, 1);
@@ -73,22 +62,22 @@ void arithmeticBenchmarks()
         pxlbench::Image a(W, H, 2), b(W, H, 2), d(W, H, 2);
         for (auto _ : s) benchmark::DoNotOptimize(pxliAdd_16s_C1RSfs(a.as<Pxl16s>(), a.step, b.as<Pxl16s>(), b.step, d.as<Pxl16s>(), d.step, {W, H}, -3));
     });
-    op<Pxl16s>("Add 16s C1" + sz, 1, CV_16SC1, Peer::Add, PXLB_SFS(pxliAdd_16s_C1RSfs));
-    op<Pxl16s>("Add 16s C3" + sz, 3, CV_16SC3, Peer::Add, PXLB_SFS(pxliAdd_16s_C3RSfs));
-    op<Pxl16s>("Sub 16s C1" + sz, 1, CV_16SC1, Peer::Sub, PXLB_SFS(pxliSub_16s_C1RSfs));
-    op<Pxl32f>("Add 32f C1" + sz, 1, CV_32FC1, Peer::Add, PXLB_F(pxliAdd_32f_C1R));
-    op<Pxl32f>("Add 32f C3" + sz, 3, CV_32FC3, Peer::Add, PXLB_F(pxliAdd_32f_C3R));
-    op<Pxl32f>("Sub 32f C1" + sz, 1, CV_32FC1, Peer::Sub, PXLB_F(pxliSub_32f_C1R));
-    op<Pxl8u>("Mul 8u C1" + sz, 1, CV_8UC1, Peer::Mul, PXLB_SFS(pxliMul_8u_C1RSfs));
-    op<Pxl16s>("Mul 16s C1" + sz, 1, CV_16SC1, Peer::Mul, PXLB_SFS(pxliMul_16s_C1RSfs));
-    op<Pxl32f>("Mul 32f C1" + sz, 1, CV_32FC1, Peer::Mul, PXLB_F(pxliMul_32f_C1R));
-    op<Pxl8u>("Div 8u C1" + sz, 1, CV_8UC1, Peer::Div, PXLB_SFS(pxliDiv_8u_C1RSfs));
-    op<Pxl16s>("Div 16s C1" + sz, 1, CV_16SC1, Peer::Div, PXLB_SFS(pxliDiv_16s_C1RSfs));
-    op<Pxl32f>("Div 32f C1" + sz, 1, CV_32FC1, Peer::Div, PXLB_F(pxliDiv_32f_C1R));
-    op<Pxl8u>("And 8u C1" + sz, 1, CV_8UC1, Peer::And, PXLB_F(pxliAnd_8u_C1R));
-    op<Pxl8u>("Or 8u C3" + sz, 3, CV_8UC3, Peer::Or, PXLB_F(pxliOr_8u_C3R));
-    op<Pxl16u>("Xor 16u C1" + sz, 1, CV_16UC1, Peer::Xor, PXLB_F(pxliXor_16u_C1R));
-    op<Pxl32s>("Xor 32s C1" + sz, 1, CV_32SC1, Peer::Xor, PXLB_F(pxliXor_32s_C1R));
+    op<Pxl16s>("Add 16s C1" + sz, 1, pxlbench::k16sC1, Peer::Add, PXLB_SFS(pxliAdd_16s_C1RSfs));
+    op<Pxl16s>("Add 16s C3" + sz, 3, pxlbench::k16sC3, Peer::Add, PXLB_SFS(pxliAdd_16s_C3RSfs));
+    op<Pxl16s>("Sub 16s C1" + sz, 1, pxlbench::k16sC1, Peer::Sub, PXLB_SFS(pxliSub_16s_C1RSfs));
+    op<Pxl32f>("Add 32f C1" + sz, 1, pxlbench::k32fC1, Peer::Add, PXLB_F(pxliAdd_32f_C1R));
+    op<Pxl32f>("Add 32f C3" + sz, 3, pxlbench::k32fC3, Peer::Add, PXLB_F(pxliAdd_32f_C3R));
+    op<Pxl32f>("Sub 32f C1" + sz, 1, pxlbench::k32fC1, Peer::Sub, PXLB_F(pxliSub_32f_C1R));
+    op<Pxl8u>("Mul 8u C1" + sz, 1, pxlbench::k8uC1, Peer::Mul, PXLB_SFS(pxliMul_8u_C1RSfs));
+    op<Pxl16s>("Mul 16s C1" + sz, 1, pxlbench::k16sC1, Peer::Mul, PXLB_SFS(pxliMul_16s_C1RSfs));
+    op<Pxl32f>("Mul 32f C1" + sz, 1, pxlbench::k32fC1, Peer::Mul, PXLB_F(pxliMul_32f_C1R));
+    op<Pxl8u>("Div 8u C1" + sz, 1, pxlbench::k8uC1, Peer::Div, PXLB_SFS(pxliDiv_8u_C1RSfs));
+    op<Pxl16s>("Div 16s C1" + sz, 1, pxlbench::k16sC1, Peer::Div, PXLB_SFS(pxliDiv_16s_C1RSfs));
+    op<Pxl32f>("Div 32f C1" + sz, 1, pxlbench::k32fC1, Peer::Div, PXLB_F(pxliDiv_32f_C1R));
+    op<Pxl8u>("And 8u C1" + sz, 1, pxlbench::k8uC1, Peer::And, PXLB_F(pxliAnd_8u_C1R));
+    op<Pxl8u>("Or 8u C3" + sz, 3, pxlbench::k8uC3, Peer::Or, PXLB_F(pxliOr_8u_C3R));
+    op<Pxl16u>("Xor 16u C1" + sz, 1, pxlbench::k16uC1, Peer::Xor, PXLB_F(pxliXor_16u_C1R));
+    op<Pxl32s>("Xor 32s C1" + sz, 1, pxlbench::k32sC1, Peer::Xor, PXLB_F(pxliXor_32s_C1R));
 }
 
 const pxlbench::Registrar registrar(arithmeticBenchmarks);

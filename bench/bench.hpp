@@ -16,6 +16,20 @@
 
 namespace pxlbench {
 
+// How the peer is to see an image: sample depth and channel count. Plain numbers, so that the
+// benchmarks compile without the peer; only the peer's code turns them into its type codes.
+enum class Depth { u8, u16, s16, s32, f32 };
+struct MatType {
+    Depth depth;
+    int channels;
+};
+constexpr MatType k8uC1{Depth::u8, 1}, k8uC3{Depth::u8, 3}, k8uC4{Depth::u8, 4};
+constexpr MatType k16uC1{Depth::u16, 1}, k16sC1{Depth::s16, 1}, k16sC3{Depth::s16, 3};
+constexpr MatType k32sC1{Depth::s32, 1}, k32fC1{Depth::f32, 1}, k32fC3{Depth::f32, 3}, k32fC4{Depth::f32, 4};
+#ifdef PXL_BENCH_OPENCV
+int cvType(MatType t);
+#endif
+
 // Registers one timing of an op; `who` is "pxl" or "peer". Ops are named "<what>/<size>".
 void add(const std::string& op, const char* who, std::function<void(benchmark::State&)> body);
 // Registers the memcpy baseline of an op that reads `readBytes` and writes `writeBytes` in all.
@@ -36,7 +50,7 @@ struct Image {
     void fillFloats(float lo, float hi);
     std::size_t bytes() const { return static_cast<std::size_t>(width) * pixelBytes * height; }
 #ifdef PXL_BENCH_OPENCV
-    cv::Mat mat(int type) const { return cv::Mat(height, width, type, data, static_cast<std::size_t>(step)); }
+    cv::Mat mat(MatType t) const { return cv::Mat(height, width, cvType(t), data, static_cast<std::size_t>(step)); }
 #endif
 };
 

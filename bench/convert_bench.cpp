@@ -7,7 +7,7 @@ namespace {
 constexpr int W = 1920, H = 1080;
 
 template <class S, class D, class Ours>
-void pair(const std::string& name, [[maybe_unused]] int cvSrc, [[maybe_unused]] int cvDst, Ours ours)
+void pair(const std::string& name, [[maybe_unused]] pxlbench::MatType cvSrc, [[maybe_unused]] pxlbench::MatType cvDst, Ours ours)
 {
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(S)), d(W, H, sizeof(D));
@@ -24,29 +24,23 @@ void pair(const std::string& name, [[maybe_unused]] int cvSrc, [[maybe_unused]] 
         if constexpr (std::is_same_v<S, Pxl32f>) a.fillFloats(-50.0f, 300.0f);
         cv::Mat ma = a.mat(cvSrc), md = d.mat(cvDst);
         for (auto _ : s) {
-            ma.convertTo(md, cvDst);
+            ma.convertTo(md, pxlbench::cvType(cvDst));
             benchmark::ClobberMemory();
         }
     });
 #endif
 }
 
-#ifndef PXL_BENCH_OPENCV
-#define CV_8UC1 0
-#define CV_16SC1 0
-#define CV_32FC1 0
-#endif
-
 void convertBenchmarks()
 {
     const std::string sz = "/1920x1080";
-    pair<Pxl8u, Pxl32f>("Convert 8u32f C1" + sz, CV_8UC1, CV_32FC1,
+    pair<Pxl8u, Pxl32f>("Convert 8u32f C1" + sz, pxlbench::k8uC1, pxlbench::k32fC1,
                         [](auto... a) { return pxliConvert_8u32f_C1R(a...); });
-    pair<Pxl16s, Pxl32f>("Convert 16s32f C1" + sz, CV_16SC1, CV_32FC1,
+    pair<Pxl16s, Pxl32f>("Convert 16s32f C1" + sz, pxlbench::k16sC1, pxlbench::k32fC1,
                          [](auto... a) { return pxliConvert_16s32f_C1R(a...); });
-    pair<Pxl32f, Pxl8u>("Convert 32f8u C1 nearest" + sz, CV_32FC1, CV_8UC1,
+    pair<Pxl32f, Pxl8u>("Convert 32f8u C1 nearest" + sz, pxlbench::k32fC1, pxlbench::k8uC1,
                         [](auto... a) { return pxliConvert_32f8u_C1R(a..., pxlRoundNearestEven); });
-    pair<Pxl32f, Pxl16s>("Convert 32f16s C1 nearest" + sz, CV_32FC1, CV_16SC1,
+    pair<Pxl32f, Pxl16s>("Convert 32f16s C1 nearest" + sz, pxlbench::k32fC1, pxlbench::k16sC1,
                          [](auto... a) { return pxliConvert_32f16s_C1R(a..., pxlRoundNearestEven); });
 }
 

@@ -11,7 +11,7 @@ constexpr int W = 1920, H = 1080;
 const std::string kSize = "/1920x1080";
 
 #ifdef PXL_BENCH_OPENCV
-int cvType(int depthBytes, int channels) { return depthBytes == 1 ? CV_8UC(channels) : CV_32FC(channels); }
+pxlbench::MatType peerType(int depthBytes, int channels) { return {depthBytes == 1 ? pxlbench::Depth::u8 : pxlbench::Depth::f32, channels}; }
 #endif
 
 template <class T>
@@ -78,7 +78,7 @@ void setAndCopy(const char* t, int n)
 
 // An op of ours and the peer's on the same pair of images.
 template <class Ours, class Peer>
-void pair(const std::string& op, int srcW, int srcH, int dstW, int dstH, int pb, int cvT, Ours ours, Peer peer)
+void pair(const std::string& op, int srcW, int srcH, int dstW, int dstH, int pb, pxlbench::MatType cvT, Ours ours, Peer peer)
 {
     pxlbench::add(op, "pxl", [=](benchmark::State& s) {
         pxlbench::Image a(srcW, srcH, pb), d(dstW, dstH, pb);
@@ -117,40 +117,40 @@ void exchangeBenchmarks()
     setAndCopy<Pxl32f>("32f", 3);
     setAndCopy<Pxl32f>("32f", 4);
     using I = pxlbench::Image;
-    pair("Transpose 8u C1" + kSize, W, H, H, W, 1, CV_8UC1,
+    pair("Transpose 8u C1" + kSize, W, H, H, W, 1, pxlbench::k8uC1,
          [](I& a, I& d) { return pxliTranspose_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}); },
          PEER(cv::transpose(a, d)));
-    pair("Transpose 8u C3" + kSize, W, H, H, W, 3, CV_8UC3,
+    pair("Transpose 8u C3" + kSize, W, H, H, W, 3, pxlbench::k8uC3,
          [](I& a, I& d) { return pxliTranspose_8u_C3R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}); },
          PEER(cv::transpose(a, d)));
-    pair("Transpose 32f C1" + kSize, W, H, H, W, 4, CV_32FC1,
+    pair("Transpose 32f C1" + kSize, W, H, H, W, 4, pxlbench::k32fC1,
          [](I& a, I& d) { return pxliTranspose_32f_C1R(a.as<Pxl32f>(), a.step, d.as<Pxl32f>(), d.step, {W, H}); },
          PEER(cv::transpose(a, d)));
-    pair("Mirror 8u C1 rows" + kSize, W, H, W, H, 1, CV_8UC1,
+    pair("Mirror 8u C1 rows" + kSize, W, H, W, H, 1, pxlbench::k8uC1,
          [](I& a, I& d) { return pxliMirror_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, pxlAxisHorizontal); },
          PEER(cv::flip(a, d, 0)));
-    pair("Mirror 8u C1 columns" + kSize, W, H, W, H, 1, CV_8UC1,
+    pair("Mirror 8u C1 columns" + kSize, W, H, W, H, 1, pxlbench::k8uC1,
          [](I& a, I& d) { return pxliMirror_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, pxlAxisVertical); },
          PEER(cv::flip(a, d, 1)));
-    pair("Mirror 8u C3 both" + kSize, W, H, W, H, 3, CV_8UC3,
+    pair("Mirror 8u C3 both" + kSize, W, H, W, H, 3, pxlbench::k8uC3,
          [](I& a, I& d) { return pxliMirror_8u_C3R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, pxlAxisBoth); },
          PEER(cv::flip(a, d, -1)));
-    pair("Mirror 32f C1 columns" + kSize, W, H, W, H, 4, CV_32FC1,
+    pair("Mirror 32f C1 columns" + kSize, W, H, W, H, 4, pxlbench::k32fC1,
          [](I& a, I& d) { return pxliMirror_32f_C1R(a.as<Pxl32f>(), a.step, d.as<Pxl32f>(), d.step, {W, H}, pxlAxisVertical); },
          PEER(cv::flip(a, d, 1)));
-    pair("SwapChannels 8u C3 2,1,0" + kSize, W, H, W, H, 3, CV_8UC3,
+    pair("SwapChannels 8u C3 2,1,0" + kSize, W, H, W, H, 3, pxlbench::k8uC3,
          [](I& a, I& d) {
              static const int order[3] = {2, 1, 0};
              return pxliSwapChannels_8u_C3R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, order);
          },
          PEER(cv::cvtColor(a, d, cv::COLOR_BGR2RGB)));
-    pair("SwapChannels 8u C4 2,1,0,3" + kSize, W, H, W, H, 4, CV_8UC4,
+    pair("SwapChannels 8u C4 2,1,0,3" + kSize, W, H, W, H, 4, pxlbench::k8uC4,
          [](I& a, I& d) {
              static const int order[4] = {2, 1, 0, 3};
              return pxliSwapChannels_8u_C4R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, order);
          },
          PEER(cv::cvtColor(a, d, cv::COLOR_BGRA2RGBA)));
-    pair("SwapChannels 32f C3 2,1,0" + kSize, W, H, W, H, 12, CV_32FC3,
+    pair("SwapChannels 32f C3 2,1,0" + kSize, W, H, W, H, 12, pxlbench::k32fC3,
          [](I& a, I& d) {
              static const int order[3] = {2, 1, 0};
              return pxliSwapChannels_32f_C3R(a.as<Pxl32f>(), a.step, d.as<Pxl32f>(), d.step, {W, H}, order);

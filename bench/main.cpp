@@ -17,6 +17,21 @@ struct Buffer {
 };
 }  // namespace
 
+#ifdef PXL_BENCH_OPENCV
+int cvType(MatType t)
+{
+    int depth = CV_8U;
+    switch (t.depth) {
+    case Depth::u8: depth = CV_8U; break;
+    case Depth::u16: depth = CV_16U; break;
+    case Depth::s16: depth = CV_16S; break;
+    case Depth::s32: depth = CV_32S; break;
+    case Depth::f32: depth = CV_32F; break;
+    }
+    return CV_MAKETYPE(depth, t.channels);
+}
+#endif
+
 Image::Image(int w, int h, int pb) : width(w), height(h), pixelBytes(pb)
 {
     data = pxliMalloc_8u_C1(w * pb, h, &step);

@@ -16,7 +16,7 @@ template <class T> void prepare(pxlbench::Image& img)
 }
 
 template <class T, class Ours>
-void threshold(const std::string& name, [[maybe_unused]] int cvType, Ours ours)
+void threshold(const std::string& name, [[maybe_unused]] pxlbench::MatType peerType, Ours ours)
 {
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(T)), d(W, H, sizeof(T));
@@ -31,7 +31,7 @@ void threshold(const std::string& name, [[maybe_unused]] int cvType, Ours ours)
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(T)), d(W, H, sizeof(T));
         prepare<T>(a);
-        cv::Mat ma = a.mat(cvType), md = d.mat(cvType);
+        cv::Mat ma = a.mat(peerType), md = d.mat(peerType);
         for (auto _ : s) {
             cv::threshold(ma, md, 100, 255, cv::THRESH_TRUNC);
             benchmark::ClobberMemory();
@@ -41,7 +41,7 @@ void threshold(const std::string& name, [[maybe_unused]] int cvType, Ours ours)
 }
 
 template <class T, class Ours>
-void compare(const std::string& name, [[maybe_unused]] int cvType, Ours ours)
+void compare(const std::string& name, [[maybe_unused]] pxlbench::MatType peerType, Ours ours)
 {
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(T)), b(W, H, sizeof(T)), d(W, H, 1);
@@ -58,7 +58,7 @@ void compare(const std::string& name, [[maybe_unused]] int cvType, Ours ours)
         pxlbench::Image a(W, H, sizeof(T)), b(W, H, sizeof(T)), d(W, H, 1);
         prepare<T>(a);
         prepare<T>(b);
-        cv::Mat ma = a.mat(cvType), mb = b.mat(cvType), md = d.mat(CV_8UC1);
+        cv::Mat ma = a.mat(peerType), mb = b.mat(peerType), md = d.mat(pxlbench::k8uC1);
         for (auto _ : s) {
             cv::compare(ma, mb, md, cv::CMP_LT);
             benchmark::ClobberMemory();
@@ -67,22 +67,17 @@ void compare(const std::string& name, [[maybe_unused]] int cvType, Ours ours)
 #endif
 }
 
-#ifndef PXL_BENCH_OPENCV
-#define CV_8UC1 0
-#define CV_32FC1 0
-#endif
-
 void thresholdBenchmarks()
 {
     const std::string sz = "/1920x1080";
-    threshold<Pxl8u>("Threshold GT 8u C1" + sz, CV_8UC1,
+    threshold<Pxl8u>("Threshold GT 8u C1" + sz, pxlbench::k8uC1,
                      [](auto s, int ss, auto d, int ds, PxliSize r) { return pxliThreshold_GT_8u_C1R(s, ss, d, ds, r, 100); });
-    threshold<Pxl32f>("Threshold GT 32f C1" + sz, CV_32FC1,
+    threshold<Pxl32f>("Threshold GT 32f C1" + sz, pxlbench::k32fC1,
                       [](auto s, int ss, auto d, int ds, PxliSize r) { return pxliThreshold_GT_32f_C1R(s, ss, d, ds, r, 100.0f); });
-    compare<Pxl8u>("Compare less 8u C1" + sz, CV_8UC1, [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) {
+    compare<Pxl8u>("Compare less 8u C1" + sz, pxlbench::k8uC1, [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) {
         return pxliCompare_8u_C1R(a, as, b, bs, d, ds, r, pxlCmpLess);
     });
-    compare<Pxl32f>("Compare less 32f C1" + sz, CV_32FC1, [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) {
+    compare<Pxl32f>("Compare less 32f C1" + sz, pxlbench::k32fC1, [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) {
         return pxliCompare_32f_C1R(a, as, b, bs, d, ds, r, pxlCmpLess);
     });
 }
