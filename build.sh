@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # The project's commands, each from a fresh clone:
 #   ./build.sh demo    build in Release and run `pxl demo` (images and timings into out/)
-#   ./build.sh test    build and run every test: Release with g++, AddressSanitizer and
-#                      UndefinedBehaviorSanitizer (on the first x86-64, so that the plain paths
-#                      run too), and clang++ for this machine's processor
-#   ./build.sh bench   build in Release for this machine and run the benchmarks against OpenCV
-#                      and memcpy (extra arguments go to Google Benchmark, e.g. --benchmark_filter=Add)
+#   ./build.sh test    build and run every test: Release with g++ and with clang++, each running
+#                      the family tests under every processor level this machine has, and
+#                      AddressSanitizer + UndefinedBehaviorSanitizer on the first x86-64
+#   ./build.sh bench   build the default Release and run the benchmarks against OpenCV and
+#                      memcpy (extra arguments go to Google Benchmark, e.g. --benchmark_filter=Add)
 # Each installs the Debian packages it needs when they are missing.
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -45,7 +45,7 @@ test)
     configs=(
         "gcc-release|-DCMAKE_BUILD_TYPE=Release -DPXL_WERROR=ON -DCMAKE_DISABLE_FIND_PACKAGE_OpenCV=ON"
         "gcc-sanitize|-DCMAKE_BUILD_TYPE=RelWithDebInfo -DPXL_SANITIZE=ON -DPXL_BUILD_BENCH=OFF -DPXL_TARGET_CPU=baseline"
-        "clang-native|-DCMAKE_BUILD_TYPE=Release -DPXL_WERROR=ON -DPXL_TARGET_CPU=native -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++"
+        "clang-release|-DCMAKE_BUILD_TYPE=Release -DPXL_WERROR=ON -DPXL_BUILD_BENCH=OFF -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++"
     )
     for c in "${configs[@]}"; do
         name=${c%%|*}
@@ -57,8 +57,8 @@ test)
     ;;
 bench)
     need "${base[@]}" libbenchmark-dev libopencv-dev
-    # The peer picks the best instructions of this machine at run time; we compile for it.
-    build build/bench -DCMAKE_BUILD_TYPE=Release -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_BENCH=ON -DPXL_TARGET_CPU=native
+    # The default build, as users get it: every level's kernels, the best picked at each call.
+    build build/bench -DCMAKE_BUILD_TYPE=Release -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_BENCH=ON -DPXL_TARGET_CPU=auto
     shift
     build/bench/bench/pxl_bench --benchmark_min_time=0.05 --benchmark_repetitions=12 \
         --benchmark_enable_random_interleaving=true "$@"
