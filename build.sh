@@ -60,8 +60,10 @@ bench)
     # The default build, as users get it: every level's kernels, the best picked at each call.
     build build/bench -DCMAKE_BUILD_TYPE=Release -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_BENCH=ON -DPXL_TARGET_CPU=auto
     shift
-    build/bench/bench/pxl_bench --benchmark_min_time=0.05 --benchmark_repetitions=12 \
-        --benchmark_enable_random_interleaving=true "$@"
+    for size in 1920x1080 768x432; do
+        build/bench/bench/pxl_bench --size=$size --benchmark_min_time=0.05 --benchmark_repetitions=12 \
+            --benchmark_enable_random_interleaving=true "$@"
+    done
     ;;
 *)
     sed -n '2,9p' "$0" | sed 's/^# \{0,1\}//'

@@ -1,10 +1,11 @@
-// Add and subtract on a 1920x1080 frame, scale factor 0, against OpenCV's saturating add and
+// Add and subtract on a frame (1920x1080 unless --size says otherwise), scale factor 0, against OpenCV's saturating add and
 // subtract and a memcpy of the bytes the op reads and writes.
 #include "bench.hpp"
 
 namespace {
 
-constexpr int W = 1920, H = 1080;
+using pxlbench::H;
+using pxlbench::W;
 
 enum class Peer { Add, Sub, Mul, Div, And, Or, Xor };
 
@@ -49,7 +50,7 @@ void op(const std::string& name, int channels, [[maybe_unused]] pxlbench::MatTyp
 #define PXLB_F(fn) [](auto a, int as, auto b, int bs, auto d, int ds, PxliSize r) { return fn(a, as, b, bs, d, ds, r); }
 void arithmeticBenchmarks()
 {
-    const std::string sz = "/1920x1080";
+    const std::string sz = pxlbench::sizeTag();
     op<Pxl8u>("Add 8u C1" + sz, 1, pxlbench::k8uC1, Peer::Add, PXLB_SFS(pxliAdd_8u_C1RSfs));
     op<Pxl8u>("Add 8u C3" + sz, 3, pxlbench::k8uC3, Peer::Add, PXLB_SFS(pxliAdd_8u_C3RSfs));
     op<Pxl8u>("Sub 8u C1" + sz, 1, pxlbench::k8uC1, Peer::Sub, PXLB_SFS(pxliSub_8u_C1RSfs));

@@ -54,9 +54,15 @@ struct Image {
 #endif
 };
 
-// Each family's benchmarks register themselves through one of these at start-up.
+// The frame every op runs on: 1920x1080 unless the command line says `--size=WxH`. It is read
+// when the ops register, after the command line, and sizeTag() ("/1920x1080") ends their names.
+extern int W, H;
+std::string sizeTag();
+
+// Each family's benchmarks give their registering function to one of these at start-up; main
+// calls them once the size is known.
 struct Registrar {
-    explicit Registrar(void (*fn)()) { fn(); }
+    explicit Registrar(void (*fn)());
 };
 
 }  // namespace pxlbench

@@ -1,10 +1,12 @@
-// A 16-pixel border around a 1920x1080 frame, replicated and constant, against OpenCV's
+// A 16-pixel border around a frame (1920x1080 unless --size says otherwise), replicated and constant, against OpenCV's
 // copyMakeBorder and a memcpy of the bytes read and written.
 #include "bench.hpp"
 
 namespace {
 
-constexpr int W = 1920, H = 1080, B = 16;
+using pxlbench::H;
+using pxlbench::W;
+constexpr int B = 16;
 constexpr Pxl8u kValue3[3] = {7, 7, 7};
 
 template <class Ours>
@@ -18,7 +20,7 @@ void border(const std::string& name, int channels, [[maybe_unused]] pxlbench::Ma
             benchmark::ClobberMemory();
         }
     });
-    pxlbench::addMemcpy(name, std::size_t{W} * H * channels, std::size_t{W + 2 * B} * (H + 2 * B) * channels);
+    pxlbench::addMemcpy(name, static_cast<std::size_t>(W) * H * channels, static_cast<std::size_t>(W + 2 * B) * (H + 2 * B) * channels);
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, channels), d(W + 2 * B, H + 2 * B, channels);
@@ -33,7 +35,7 @@ void border(const std::string& name, int channels, [[maybe_unused]] pxlbench::Ma
 
 void borderBenchmarks()
 {
-    const std::string sz = "/1920x1080+16";
+    const std::string sz = pxlbench::sizeTag() + "+16";
     const PxliSize src{W, H}, dst{W + 2 * B, H + 2 * B};
     border("Border replicate 8u C1" + sz, 1, pxlbench::k8uC1, true,
            [=](auto s, int ss, auto d, int ds) { return pxliCopyReplicateBorder_8u_C1R(s, ss, src, d, ds, dst, B, B); });

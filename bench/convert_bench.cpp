@@ -1,10 +1,11 @@
-// Conversions on a 1920x1080 frame against OpenCV's convertTo (which rounds to nearest even, as
+// Conversions on a frame (1920x1080 unless --size says otherwise) against OpenCV's convertTo (which rounds to nearest even, as
 // our code 1 does) and a memcpy of the bytes read and written.
 #include "bench.hpp"
 
 namespace {
 
-constexpr int W = 1920, H = 1080;
+using pxlbench::H;
+using pxlbench::W;
 
 template <class S, class D, class Ours>
 void pair(const std::string& name, [[maybe_unused]] pxlbench::MatType cvSrc, [[maybe_unused]] pxlbench::MatType cvDst, Ours ours)
@@ -17,7 +18,7 @@ void pair(const std::string& name, [[maybe_unused]] pxlbench::MatType cvSrc, [[m
             benchmark::ClobberMemory();
         }
     });
-    pxlbench::addMemcpy(name, std::size_t{W} * H * sizeof(S), std::size_t{W} * H * sizeof(D));
+    pxlbench::addMemcpy(name, static_cast<std::size_t>(W) * H * sizeof(S), static_cast<std::size_t>(W) * H * sizeof(D));
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(S)), d(W, H, sizeof(D));
@@ -33,7 +34,7 @@ void pair(const std::string& name, [[maybe_unused]] pxlbench::MatType cvSrc, [[m
 
 void convertBenchmarks()
 {
-    const std::string sz = "/1920x1080";
+    const std::string sz = pxlbench::sizeTag();
     pair<Pxl8u, Pxl32f>("Convert 8u32f C1" + sz, pxlbench::k8uC1, pxlbench::k32fC1,
                         [](auto... a) { return pxliConvert_8u32f_C1R(a...); });
     pair<Pxl16s, Pxl32f>("Convert 16s32f C1" + sz, pxlbench::k16sC1, pxlbench::k32fC1,

@@ -1,4 +1,4 @@
-// Set, copy, transpose, mirror and channel swaps on a 1920x1080 frame.
+// Set, copy, transpose, mirror and channel swaps on a frame (1920x1080 unless --size says otherwise).
 #include "bench.hpp"
 
 #ifdef PXL_BENCH_OPENCV
@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr int W = 1920, H = 1080;
-const std::string kSize = "/1920x1080";
+using pxlbench::H;
+using pxlbench::W;
 
 #ifdef PXL_BENCH_OPENCV
 pxlbench::MatType peerType(int depthBytes, int channels) { return {depthBytes == 1 ? pxlbench::Depth::u8 : pxlbench::Depth::f32, channels}; }
@@ -18,8 +18,8 @@ template <class T>
 void setAndCopy(const char* t, int n)
 {
     const int pb = n * static_cast<int>(sizeof(T));
-    const std::string set = std::string("Set ") + t + " C" + std::to_string(n) + kSize;
-    const std::string copy = std::string("Copy ") + t + " C" + std::to_string(n) + kSize;
+    const std::string set = std::string("Set ") + t + " C" + std::to_string(n) + pxlbench::sizeTag();
+    const std::string copy = std::string("Copy ") + t + " C" + std::to_string(n) + pxlbench::sizeTag();
     pxlbench::add(set, "pxl", [n, pb](benchmark::State& s) {
         pxlbench::Image d(W, H, pb);
         const T v[4] = {T(1), T(2), T(3), T(4)};
@@ -59,7 +59,7 @@ void setAndCopy(const char* t, int n)
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(set, "peer", [n, pb](benchmark::State& s) {
         pxlbench::Image d(W, H, pb);
-        cv::Mat m = d.mat(cvType(static_cast<int>(sizeof(T)), n));
+        cv::Mat m = d.mat(peerType(static_cast<int>(sizeof(T)), n));
         for (auto _ : s) {
             m.setTo(cv::Scalar(1, 2, 3, 4));
             benchmark::ClobberMemory();
@@ -67,7 +67,7 @@ void setAndCopy(const char* t, int n)
     });
     pxlbench::add(copy, "peer", [n, pb](benchmark::State& s) {
         pxlbench::Image a(W, H, pb), d(W, H, pb);
-        cv::Mat ma = a.mat(cvType(static_cast<int>(sizeof(T)), n)), md = d.mat(cvType(static_cast<int>(sizeof(T)), n));
+        cv::Mat ma = a.mat(peerType(static_cast<int>(sizeof(T)), n)), md = d.mat(peerType(static_cast<int>(sizeof(T)), n));
         for (auto _ : s) {
             ma.copyTo(md);
             benchmark::ClobberMemory();
@@ -117,40 +117,40 @@ void exchangeBenchmarks()
     setAndCopy<Pxl32f>("32f", 3);
     setAndCopy<Pxl32f>("32f", 4);
     using I = pxlbench::Image;
-    pair("Transpose 8u C1" + kSize, W, H, H, W, 1, pxlbench::k8uC1,
+    pair("Transpose 8u C1" + pxlbench::sizeTag(), W, H, H, W, 1, pxlbench::k8uC1,
          [](I& a, I& d) { return pxliTranspose_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}); },
          PEER(cv::transpose(a, d)));
-    pair("Transpose 8u C3" + kSize, W, H, H, W, 3, pxlbench::k8uC3,
+    pair("Transpose 8u C3" + pxlbench::sizeTag(), W, H, H, W, 3, pxlbench::k8uC3,
          [](I& a, I& d) { return pxliTranspose_8u_C3R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}); },
          PEER(cv::transpose(a, d)));
-    pair("Transpose 32f C1" + kSize, W, H, H, W, 4, pxlbench::k32fC1,
+    pair("Transpose 32f C1" + pxlbench::sizeTag(), W, H, H, W, 4, pxlbench::k32fC1,
          [](I& a, I& d) { return pxliTranspose_32f_C1R(a.as<Pxl32f>(), a.step, d.as<Pxl32f>(), d.step, {W, H}); },
          PEER(cv::transpose(a, d)));
-    pair("Mirror 8u C1 rows" + kSize, W, H, W, H, 1, pxlbench::k8uC1,
+    pair("Mirror 8u C1 rows" + pxlbench::sizeTag(), W, H, W, H, 1, pxlbench::k8uC1,
          [](I& a, I& d) { return pxliMirror_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, pxlAxisHorizontal); },
          PEER(cv::flip(a, d, 0)));
-    pair("Mirror 8u C1 columns" + kSize, W, H, W, H, 1, pxlbench::k8uC1,
+    pair("Mirror 8u C1 columns" + pxlbench::sizeTag(), W, H, W, H, 1, pxlbench::k8uC1,
          [](I& a, I& d) { return pxliMirror_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, pxlAxisVertical); },
          PEER(cv::flip(a, d, 1)));
-    pair("Mirror 8u C3 both" + kSize, W, H, W, H, 3, pxlbench::k8uC3,
+    pair("Mirror 8u C3 both" + pxlbench::sizeTag(), W, H, W, H, 3, pxlbench::k8uC3,
          [](I& a, I& d) { return pxliMirror_8u_C3R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, pxlAxisBoth); },
          PEER(cv::flip(a, d, -1)));
-    pair("Mirror 32f C1 columns" + kSize, W, H, W, H, 4, pxlbench::k32fC1,
+    pair("Mirror 32f C1 columns" + pxlbench::sizeTag(), W, H, W, H, 4, pxlbench::k32fC1,
          [](I& a, I& d) { return pxliMirror_32f_C1R(a.as<Pxl32f>(), a.step, d.as<Pxl32f>(), d.step, {W, H}, pxlAxisVertical); },
          PEER(cv::flip(a, d, 1)));
-    pair("SwapChannels 8u C3 2,1,0" + kSize, W, H, W, H, 3, pxlbench::k8uC3,
+    pair("SwapChannels 8u C3 2,1,0" + pxlbench::sizeTag(), W, H, W, H, 3, pxlbench::k8uC3,
          [](I& a, I& d) {
              static const int order[3] = {2, 1, 0};
              return pxliSwapChannels_8u_C3R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, order);
          },
          PEER(cv::cvtColor(a, d, cv::COLOR_BGR2RGB)));
-    pair("SwapChannels 8u C4 2,1,0,3" + kSize, W, H, W, H, 4, pxlbench::k8uC4,
+    pair("SwapChannels 8u C4 2,1,0,3" + pxlbench::sizeTag(), W, H, W, H, 4, pxlbench::k8uC4,
          [](I& a, I& d) {
              static const int order[4] = {2, 1, 0, 3};
              return pxliSwapChannels_8u_C4R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, order);
          },
          PEER(cv::cvtColor(a, d, cv::COLOR_BGRA2RGBA)));
-    pair("SwapChannels 32f C3 2,1,0" + kSize, W, H, W, H, 12, pxlbench::k32fC3,
+    pair("SwapChannels 32f C3 2,1,0" + pxlbench::sizeTag(), W, H, W, H, 12, pxlbench::k32fC3,
          [](I& a, I& d) {
              static const int order[3] = {2, 1, 0};
              return pxliSwapChannels_32f_C3R(a.as<Pxl32f>(), a.step, d.as<Pxl32f>(), d.step, {W, H}, order);

@@ -19,7 +19,7 @@ void frameBenchmarks()
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add("Malloc+Free 8u C3/1920x1080", "peer", [](benchmark::State& s) {
         for (auto _ : s) {
-            cv::Mat m(1080, 1920, pxlbench::k8uC3);
+            cv::Mat m(1080, 1920, pxlbench::cvType(pxlbench::k8uC3));
             benchmark::DoNotOptimize(m.data);
         }
     });

@@ -1,6 +1,7 @@
 #include "bench.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <map>
@@ -31,6 +32,23 @@ int cvType(MatType t)
     return CV_MAKETYPE(depth, t.channels);
 }
 #endif
+
+int W = 1920, H = 1080;
+std::string sizeTag()
+{
+    char tag[32];
+    std::snprintf(tag, sizeof tag, "/%dx%d", W, H);
+    return tag;
+}
+
+namespace {
+std::vector<void (*)()>& registering()
+{
+    static std::vector<void (*)()> fns;
+    return fns;
+}
+}  // namespace
+Registrar::Registrar(void (*fn)()) { registering().push_back(fn); }
 
 Image::Image(int w, int h, int pb) : width(w), height(h), pixelBytes(pb)
 {
@@ -91,6 +109,8 @@ public:
     {
         ConsoleReporter::Finalize();
         std::printf("\n%-40s %12s %12s %12s %10s %10s\n", "op (us per call)", "pxl", "opencv", "memcpy", "pxl/cv", "pxl/memcpy");
+        double logSum = 0;
+        int compared = 0;
         for (const auto& entry : times_) {
             const std::string& op = entry.first;
             const auto& t = entry.second;
@@ -100,7 +120,13 @@ public:
             auto ratio = [](double a, double b) { char buf[32]; if (a < 0 || b <= 0) std::snprintf(buf, sizeof buf, "-"); else std::snprintf(buf, sizeof buf, "%.2f", a / b); return std::string(buf); };
             std::printf("%-40s %12s %12s %12s %10s %10s\n", op.c_str(), cell(ours).c_str(), cell(peer).c_str(),
                         cell(mem).c_str(), ratio(ours, peer).c_str(), ratio(ours, mem).c_str());
+            if (ours > 0 && peer > 0) {
+                logSum += std::log(ours / peer);
+                ++compared;
+            }
         }
+        if (compared > 0)
+            std::printf("%-40s %12s %12s %12s %10.2f\n", "geometric mean", "", "", "", std::exp(logSum / compared));
     }
 
 private:
@@ -115,6 +141,17 @@ int main(int argc, char** argv)
 #ifdef PXL_BENCH_OPENCV
     cv::setNumThreads(1);  // the peer on one thread, as we are
 #endif
+    for (int i = 1; i < argc; ++i) {
+        if (std::strncmp(argv[i], "--size=", 7) != 0) continue;
+        if (std::sscanf(argv[i] + 7, "%dx%d", &pxlbench::W, &pxlbench::H) != 2 || pxlbench::W < 1 || pxlbench::H < 1) {
+            std::fprintf(stderr, "--size takes WIDTHxHEIGHT\n");
+            return 2;
+        }
+        for (int k = i; k < argc - 1; ++k) argv[k] = argv[k + 1];
+        --argc;
+        --i;
+    }
+    for (auto fn : pxlbench::registering()) fn();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     pxlbench::RatioReporter reporter;

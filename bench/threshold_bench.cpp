@@ -1,4 +1,4 @@
-// Threshold (GT: x above t becomes t) and compare (less) on a 1920x1080 frame, against OpenCV's
+// Threshold (GT: x above t becomes t) and compare (less) on a frame (1920x1080 unless --size says otherwise), against OpenCV's
 // threshold with THRESH_TRUNC and compare with CMP_LT, and a memcpy of the bytes moved.
 #include "bench.hpp"
 
@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr int W = 1920, H = 1080;
+using pxlbench::H;
+using pxlbench::W;
 
 template <class T> void prepare(pxlbench::Image& img)
 {
@@ -26,7 +27,7 @@ void threshold(const std::string& name, [[maybe_unused]] pxlbench::MatType peerT
             benchmark::ClobberMemory();
         }
     });
-    pxlbench::addMemcpy(name, std::size_t{W} * H * sizeof(T), std::size_t{W} * H * sizeof(T));
+    pxlbench::addMemcpy(name, static_cast<std::size_t>(W) * H * sizeof(T), static_cast<std::size_t>(W) * H * sizeof(T));
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(T)), d(W, H, sizeof(T));
@@ -52,7 +53,7 @@ void compare(const std::string& name, [[maybe_unused]] pxlbench::MatType peerTyp
             benchmark::ClobberMemory();
         }
     });
-    pxlbench::addMemcpy(name, 2 * std::size_t{W} * H * sizeof(T), std::size_t{W} * H);
+    pxlbench::addMemcpy(name, 2 * static_cast<std::size_t>(W) * H * sizeof(T), static_cast<std::size_t>(W) * H);
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(T)), b(W, H, sizeof(T)), d(W, H, 1);
@@ -69,7 +70,7 @@ void compare(const std::string& name, [[maybe_unused]] pxlbench::MatType peerTyp
 
 void thresholdBenchmarks()
 {
-    const std::string sz = "/1920x1080";
+    const std::string sz = pxlbench::sizeTag();
     threshold<Pxl8u>("Threshold GT 8u C1" + sz, pxlbench::k8uC1,
                      [](auto s, int ss, auto d, int ds, PxliSize r) { return pxliThreshold_GT_8u_C1R(s, ss, d, ds, r, 100); });
     threshold<Pxl32f>("Threshold GT 32f C1" + sz, pxlbench::k32fC1,
