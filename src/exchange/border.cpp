@@ -7,6 +7,9 @@
 #include "exchange/kernels.hpp"
 #include "frame/bind.hpp"
 
+#include <algorithm>
+#include <cstddef>
+
 namespace pxl::exch {
 
 namespace {
@@ -30,6 +33,46 @@ struct Geometry {
     int top, left;
 };
 
+// Columns x0..x1-1 of the frame's interior rows by a rule that points at other pixels of the
+// same row. Where those pixels come from is the same in every row, so it is worked out once per
+// call, as runs of columns whose sources follow each other forwards or backwards (a mirrored side
+// narrower than the image is one backward run); each row then copies or reverses whole runs.
+template <class S, class L, Rule R>
+void sideColumns(const S* src, int srcStep, S* frame, int dstStep, const Geometry& g, int x0, int x1)
+{
+    constexpr int N = L::mem, kRuns = 64;
+    struct Run {
+        int column, first, length;  // `first` is the source of `column`, the run's first column
+        bool backward;
+    };
+    Run runs[kRuns];
+    const int w = g.src.width;
+    for (int x = x0; x < x1;) {
+        int count = 0;
+        for (; x < x1 && count < kRuns; ++count) {
+            Run& r = runs[count];
+            r = {x, sourceIndex<R>(x - g.left, w), 1, false};
+            if (x + 1 < x1 && w > 1) {
+                r.backward = sourceIndex<R>(x + 1 - g.left, w) == r.first - 1;
+                const int dir = r.backward ? -1 : 1;
+                while (x + r.length < x1 && sourceIndex<R>(x + r.length - g.left, w) == r.first + dir * r.length) ++r.length;
+            }
+            x += r.length;
+        }
+        for (int i = 0; i < g.src.height; ++i) {
+            const S* s = rowAt(src, srcStep, i);
+            S* d = rowAt(frame, dstStep, g.top + i);
+            for (int k = 0; k < count; ++k) {
+                const Run& r = runs[k];
+                if (r.backward)
+                    krnReversePixels<S, L>(s + std::ptrdiff_t{N} * (r.first - r.length + 1), d + std::ptrdiff_t{N} * r.column, r.length);
+                else
+                    krnCopyPixels<S, L>(s + std::ptrdiff_t{N} * r.first, d + std::ptrdiff_t{N} * r.column, r.length);
+            }
+        }
+    }
+}
+
 // The frame's top-left pixel is `frame`; the source region is `src` (inside the frame when
 // inPlace, whose interior is then left alone).
 template <class S, class L, Rule R>
@@ -49,11 +92,12 @@ void makeFrame(const S* src, int srcStep, S* frame, int dstStep, const Geometry&
             const S* last = s + std::ptrdiff_t{N} * (W - 1);
             for (int x = 0; x < g.left; ++x) putPixel<S, L>(d + N * x, first);
             for (int x = right; x < g.dst.width; ++x) putPixel<S, L>(d + std::ptrdiff_t{N} * x, last);
-        } else {
-            for (int x = 0; x < g.left; ++x) putPixel<S, L>(d + N * x, s + N * sourceIndex<R>(x - g.left, W));
-            for (int x = right; x < g.dst.width; ++x) putPixel<S, L>(d + std::ptrdiff_t{N} * x, s + N * sourceIndex<R>(x - g.left, W));
         }
         if (!inPlace) krnCopyPixels<S, L>(s, d + std::ptrdiff_t{N} * g.left, W);
+    }
+    if constexpr (R == Rule::Mirror || R == Rule::Wrap) {
+        sideColumns<S, L, R>(src, srcStep, frame, dstStep, g, 0, g.left);
+        sideColumns<S, L, R>(src, srcStep, frame, dstStep, g, right, g.dst.width);
     }
     for (int y = 0; y < g.dst.height; ++y) {
         if (y >= g.top && y < g.top + H) continue;

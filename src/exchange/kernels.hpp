@@ -6,7 +6,12 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
+
+#if defined(__SSSE3__)
+#include <tmmintrin.h>
+#endif
 
 namespace pxl {
 
@@ -71,6 +76,70 @@ inline void krnFillPixels(const S* pixel, S* dst, int step, int width, int rows)
         krnFillPattern(pixel, L::mem * static_cast<int>(sizeof(S)), reinterpret_cast<char*>(dst), step,
                        static_cast<std::size_t>(width) * L::mem * sizeof(S), rows);
     }
+}
+
+#if defined(__SSSE3__)
+namespace detail {
+// 48 bytes of B-byte pixels in reverse pixel order: output chunk k (16 bytes) gathers from input
+// chunk i the bytes that mask[k][i] names (-128: none of them), so three loads, seven byte
+// shuffles and three stores reverse 48 / B pixels.
+template <int B> struct ReverseMasks {
+    alignas(16) int8_t mask[3][3][16];
+    bool used[3][3];
+    constexpr ReverseMasks() : mask{}, used{}
+    {
+        const int n = 48 / B;
+        for (int k = 0; k < 48; ++k) {
+            const int from = (n - 1 - k / B) * B + k % B;
+            for (int i = 0; i < 3; ++i) mask[k / 16][i][k % 16] = static_cast<int8_t>(from / 16 == i ? from % 16 : -128);
+            used[k / 16][from / 16] = true;
+        }
+    }
+};
+template <int B> inline constexpr ReverseMasks<B> kReverseMasks{};
+
+template <int B> inline void reverse48(const unsigned char* s, unsigned char* d)
+{
+    __m128i in[3];
+    for (int i = 0; i < 3; ++i) in[i] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s + 16 * i));
+    for (int k = 0; k < 3; ++k) {
+        __m128i out = _mm_setzero_si128();
+        for (int i = 0; i < 3; ++i)
+            if (kReverseMasks<B>.used[k][i])
+                out = _mm_or_si128(out, _mm_shuffle_epi8(in[i], _mm_load_si128(reinterpret_cast<const __m128i*>(
+                                                                 kReverseMasks<B>.mask[k][i]))));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(d + 16 * k), out);
+    }
+}
+}  // namespace detail
+#endif
+
+// Destination pixel x gets source pixel width-1-x, for a row of `width` pixels of layout L (AC4
+// leaves the destination's fourth sample); the rows must not overlap. Three-sample pixels go 48
+// bytes at a time through byte shuffles where the processor has them; otherwise each moves as one
+// wider word, walking the destination forwards so that the word's extra bytes land on the pixel
+// written next; the first and last pixels, whose extra bytes would leave a row, move exactly.
+template <class S, class L>
+inline void krnReversePixels(const S* src, S* dst, int width)
+{
+    constexpr int N = L::mem;
+    const auto* s = reinterpret_cast<const unsigned char*>(src);
+    auto* d = reinterpret_cast<unsigned char*>(dst);
+    std::ptrdiff_t x = 0;
+    if constexpr (N == 3) {
+        constexpr int B = 3 * static_cast<int>(sizeof(S)), wide = B == 3 ? 4 : B == 6 ? 8 : 16;
+#if defined(__SSSE3__)
+        for (constexpr int n = 48 / B; x + n <= width; x += n) detail::reverse48<B>(s + (width - x - n) * B, d + x * B);
+#else
+        if (x < width - 1) {
+            std::memcpy(d, s + (width - 1) * std::ptrdiff_t{B}, B);
+            for (x = 1; x < width - 1; ++x) std::memcpy(d + x * B, s + (width - 1 - x) * B, wide);
+        }
+#endif
+        (void)wide;
+    }
+    for (; x < width; ++x)
+        for (int c = 0; c < L::proc; ++c) dst[N * x + c] = src[N * (width - 1 - x) + c];
 }
 
 }  // namespace pxl

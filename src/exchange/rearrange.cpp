@@ -243,26 +243,6 @@ PxlStatus mirrorDiagonal(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliS
     return pxlStatusOk;
 }
 
-namespace {
-// Destination pixel w-1-x gets source pixel x. Three-sample pixels move as one wider word, walking
-// the destination forwards so that each word's extra bytes land on the pixel written next; the
-// first and last pixels, whose extra bytes would leave the row, move exactly.
-template <class S, class L>
-void reverseRow(const S* s, S* d, int w)
-{
-    using P = Px<S, 3>;
-    if constexpr (std::is_same_v<L, C3> && kWideMove<P> > 0) {
-        const P* sp = reinterpret_cast<const P*>(s);
-        P* dp = reinterpret_cast<P*>(d);
-        dp[0] = sp[w - 1];
-        for (int x = w - 2; x > 0; --x) moveWide(dp + (w - 1 - x), sp + x);
-        if (w > 1) dp[w - 1] = sp[0];
-    } else {
-        for (int x = 0; x < w; ++x) movePixel<S, L>(d + L::mem * (w - 1 - x), s + L::mem * x);
-    }
-}
-}  // namespace
-
 template <class S, class L>
 PxlStatus mirror(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi, PxlAxis flip)
 {
@@ -281,7 +261,7 @@ PxlStatus mirror(const S* pSrc, int srcStep, S* pDst, int dstStep, PxliSize roi,
         if (flip == pxlAxisHorizontal) {
             krnCopyPixels<S, L>(s, d, w);
         } else {
-            reverseRow<S, L>(s, d, w);
+            krnReversePixels<S, L>(s, d, w);
         }
     }
     return pxlStatusOk;
