@@ -59,6 +59,14 @@ void arithmeticBenchmarks()
         pxlbench::Image a(W, H, 1), b(W, H, 1), d(W, H, 1);
         for (auto _ : s) benchmark::DoNotOptimize(pxliAdd_8u_C1RSfs(a.as<Pxl8u>(), a.step, b.as<Pxl8u>(), b.step, d.as<Pxl8u>(), d.step, {W, H}, 1));
     });
+    pxlbench::add("Sub 8u C1 f=1" + sz, "pxl", [](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), b(W, H, 1), d(W, H, 1);
+        for (auto _ : s) benchmark::DoNotOptimize(pxliSub_8u_C1RSfs(a.as<Pxl8u>(), a.step, b.as<Pxl8u>(), b.step, d.as<Pxl8u>(), d.step, {W, H}, 1));
+    });
+    pxlbench::add("Mul 8u C1 f=1" + sz, "pxl", [](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), b(W, H, 1), d(W, H, 1);
+        for (auto _ : s) benchmark::DoNotOptimize(pxliMul_8u_C1RSfs(a.as<Pxl8u>(), a.step, b.as<Pxl8u>(), b.step, d.as<Pxl8u>(), d.step, {W, H}, 1));
+    });
     pxlbench::add("Add 16s C1 f=-3" + sz, "pxl", [](benchmark::State& s) {
         pxlbench::Image a(W, H, 2), b(W, H, 2), d(W, H, 2);
         for (auto _ : s) benchmark::DoNotOptimize(pxliAdd_16s_C1RSfs(a.as<Pxl16s>(), a.step, b.as<Pxl16s>(), b.step, d.as<Pxl16s>(), d.step, {W, H}, -3));

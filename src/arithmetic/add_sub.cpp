@@ -17,6 +17,7 @@ struct AddSubCommon {
 
 struct AddOp : AddSubCommon {
     static constexpr bool kAdds = true;
+    static constexpr Narrow8u kNarrow8u = Narrow8u::Add;
     template <class W> static W apply(W first, W second) { return first + second; }
     template <class T> static constexpr int bits = sizeof(T) == 1 ? 9 : std::is_signed_v<T> ? 16 : 17;
     // Adding zero with no scale is a copy; adding a non-zero value at the saturating end of the
@@ -34,6 +35,7 @@ struct AddOp : AddSubCommon {
 
 struct SubOp : AddSubCommon {
     static constexpr bool kAdds = false;
+    static constexpr Narrow8u kNarrow8u = Narrow8u::Sub;
     template <class W> static W apply(W first, W second)
     {
         if constexpr (std::is_unsigned_v<W>) return second > first ? second - first : W(0);

@@ -101,6 +101,14 @@ PxlStatus binary(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* 
             return pxlStatusOk;
         }
     }
+    if constexpr (std::is_same_v<T, Pxl8u> && !L::hasAlpha && requires { Op::kNarrow8u; }) {
+        if (f >= 1 && f <= kNarrowMaxShift<Op::kNarrow8u>) {
+            for (int y = 0; y < roi.height; ++y)
+                krnScaledDownRow8u<Op::kNarrow8u>(rowAt(pSrc1, src1Step, y), rowAt(pSrc2, src2Step, y), rowAt(pDst, dstStep, y),
+                                                  roi.width * L::mem, f);
+            return pxlStatusOk;
+        }
+    }
     const bool computed = withFinish<T, Op>(f, [&](auto finish) {
         binaryRows<T, Op, L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi, finish);
     });

@@ -17,6 +17,7 @@ namespace pxl::arith {
 // f = 17 to 32.
 struct MulOp {
     static constexpr bool kSaturatingRows = false, kAdds = false;
+    static constexpr Narrow8u kNarrow8u = Narrow8u::Mul;
     template <class W> static W apply(W first, W second) { return first * second; }
     template <class T> static constexpr int bits = sizeof(T) == 1 ? 16 : std::is_signed_v<T> ? 30 : 32;
     template <class T> static constexpr int upLimit = sizeof(T) == 1 ? 7 : std::is_signed_v<T> ? 14 : 15;

@@ -6,6 +6,7 @@
 #include "arithmetic/scale.hpp"
 
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 #if defined(__SSE2__)
@@ -46,6 +47,48 @@ inline void krnSaturatingRow(const T* first, const T* second, T* d, int n)
     for (; i < n; ++i) {
         const int32_t s = Add ? int32_t{first[i]} + second[i] : int32_t{second[i]} - first[i];
         d[i] = saturate<T>(s);
+    }
+}
+
+// 8u rows scaled down by 2^f (1 <= f <= kNarrowMaxShift) in 16-bit lanes. A sum, difference or
+// product of two 8u samples plus its rounding term fits 16 bits there, so a vector holds twice as
+// many results as in the 32-bit type of the general loop. The vectors are the compiler's generic
+// ones, which it fits to each processor level.
+enum class Narrow8u { Add, Sub, Mul };
+template <Narrow8u K> inline constexpr int kNarrowMaxShift = K == Narrow8u::Mul ? 8 : 9;
+
+template <Narrow8u K>
+inline void krnScaledDownRow8u(const uint8_t* first, const uint8_t* second, uint8_t* d, int n, int f)
+{
+    using U8 = uint8_t __attribute__((vector_size(32)));
+    using U16 = uint16_t __attribute__((vector_size(64)));
+    using I16 = int16_t __attribute__((vector_size(64)));
+    const auto bias = static_cast<int16_t>((1 << (f - 1)) - 1);
+    const auto ubias = static_cast<uint16_t>(bias);
+    int i = 0;
+    for (; i + 32 <= n; i += 32) {
+        U8 a, b, r;
+        std::memcpy(&a, first + i, sizeof a);
+        std::memcpy(&b, second + i, sizeof b);
+        if constexpr (K == Narrow8u::Sub) {
+            const I16 s = __builtin_convertvector(b, I16) - __builtin_convertvector(a, I16);
+            I16 t = (s + bias + ((s >> f) & 1)) >> f;
+            t &= ~(t >> 15);  // below zero saturates to 0; nothing exceeds 255
+            r = __builtin_convertvector(t, U8);
+        } else {
+            const U16 ua = __builtin_convertvector(a, U16), ub = __builtin_convertvector(b, U16);
+            const U16 s = K == Narrow8u::Add ? ua + ub : ua * ub;
+            U16 t = (s + ubias + ((s >> f) & 1)) >> f;
+            // A product may exceed 255: all ones there, whose low byte is 255. A sum never does.
+            if constexpr (K == Narrow8u::Mul) t |= reinterpret_cast<U16>(t > 255);
+            r = __builtin_convertvector(t, U8);
+        }
+        std::memcpy(d + i, &r, sizeof r);
+    }
+    const ScaleDown<int32_t> down(f);
+    for (; i < n; ++i) {
+        const int32_t x = first[i], y = second[i];
+        d[i] = saturate<uint8_t>(down(K == Narrow8u::Add ? x + y : K == Narrow8u::Sub ? y - x : x * y));
     }
 }
 
