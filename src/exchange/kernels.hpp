@@ -98,6 +98,22 @@ template <int B> struct ReverseMasks {
 };
 template <int B> inline constexpr ReverseMasks<B> kReverseMasks{};
 
+// 16 bytes of B-byte pixels (B dividing 16) in reverse pixel order: one byte shuffle.
+template <int B> struct ReverseMask16 {
+    alignas(16) int8_t mask[16];
+    constexpr ReverseMask16() : mask{}
+    {
+        for (int k = 0; k < 16; ++k) mask[k] = static_cast<int8_t>((16 / B - 1 - k / B) * B + k % B);
+    }
+};
+template <int B> inline constexpr ReverseMask16<B> kReverseMask16{};
+
+template <int B> inline void reverse16(const unsigned char* s, unsigned char* d)
+{
+    const __m128i m = _mm_load_si128(reinterpret_cast<const __m128i*>(kReverseMask16<B>.mask));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(d), _mm_shuffle_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(s)), m));
+}
+
 template <int B> inline void reverse48(const unsigned char* s, unsigned char* d)
 {
     __m128i in[3];
@@ -115,29 +131,36 @@ template <int B> inline void reverse48(const unsigned char* s, unsigned char* d)
 #endif
 
 // Destination pixel x gets source pixel width-1-x, for a row of `width` pixels of layout L (AC4
-// leaves the destination's fourth sample); the rows must not overlap. Three-sample pixels go 48
-// bytes at a time through byte shuffles where the processor has them; otherwise each moves as one
-// wider word, walking the destination forwards so that the word's extra bytes land on the pixel
-// written next; the first and last pixels, whose extra bytes would leave a row, move exactly.
+// leaves the destination's fourth sample); the rows must not overlap. Pixels of 1, 2, 4, 8 or 16
+// bytes: the compiler vectorises the plain loop of a long row; a short one (a border's side) goes
+// 16 bytes at a time through byte shuffles. Three-sample pixels go 48 bytes at a time through byte
+// shuffles where the processor has them. Otherwise a
+// three-sample pixel moves as one wider word, walking the destination forwards so that the word's
+// extra bytes land on the pixel written next; the first and last pixels, whose extra bytes would
+// leave a row, move exactly.
 template <class S, class L>
 inline void krnReversePixels(const S* src, S* dst, int width)
 {
-    constexpr int N = L::mem;
+    constexpr int N = L::mem, B = N * static_cast<int>(sizeof(S));
     const auto* s = reinterpret_cast<const unsigned char*>(src);
     auto* d = reinterpret_cast<unsigned char*>(dst);
     std::ptrdiff_t x = 0;
-    if constexpr (N == 3) {
-        constexpr int B = 3 * static_cast<int>(sizeof(S)), wide = B == 3 ? 4 : B == 6 ? 8 : 16;
 #if defined(__SSSE3__)
+    if constexpr (!L::hasAlpha && 16 % B == 0) {
+        if (width * std::ptrdiff_t{B} < 64)
+            for (constexpr int n = 16 / B; x + n <= width; x += n) detail::reverse16<B>(s + (width - x - n) * B, d + x * B);
+    } else if constexpr (!L::hasAlpha) {
         for (constexpr int n = 48 / B; x + n <= width; x += n) detail::reverse48<B>(s + (width - x - n) * B, d + x * B);
+    }
 #else
+    if constexpr (N == 3) {
+        constexpr int wide = B == 3 ? 4 : B == 6 ? 8 : 16;
         if (x < width - 1) {
             std::memcpy(d, s + (width - 1) * std::ptrdiff_t{B}, B);
             for (x = 1; x < width - 1; ++x) std::memcpy(d + x * B, s + (width - 1 - x) * B, wide);
         }
-#endif
-        (void)wide;
     }
+#endif
     for (; x < width; ++x)
         for (int c = 0; c < L::proc; ++c) dst[N * x + c] = src[N * (width - 1 - x) + c];
 }
