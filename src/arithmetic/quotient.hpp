@@ -14,6 +14,8 @@
 #pragma once
 
 #include <cmath>
+
+#include "frame/simd.hpp"
 #include <cstdint>
 #include <type_traits>
 
@@ -50,12 +52,7 @@ inline int krnQuotientRow([[maybe_unused]] const T* a, [[maybe_unused]] const T*
     const float scale = factors.scale;
     const int32_t cut = factors.cut;
 #if defined(__AVX512F__)
-#if defined(__GNUC__) && !defined(__clang__)
-    // GCC's 512-bit intrinsics pass an undefined vector for the lanes no mask drops and then warn
-    // about it after inlining.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
-#endif
+    PXL_AVX512_KERNEL_BEGIN
     {
         const __m512 m = _mm512_set1_ps(scale);
         const __m512i one = _mm512_set1_epi32(1), cut16 = _mm512_set1_epi32(cut);
@@ -78,9 +75,7 @@ inline int krnQuotientRow([[maybe_unused]] const T* a, [[maybe_unused]] const T*
         }
         zero |= seen != 0;
     }
-#if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC diagnostic pop
-#endif
+    PXL_AVX512_KERNEL_END
 #endif
 #if defined(__AVX2__)
     {

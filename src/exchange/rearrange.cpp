@@ -3,11 +3,15 @@
 #include "exchange/exchange.hpp"
 #include "exchange/kernels.hpp"
 #include "frame/bind.hpp"
+#include "frame/simd.hpp"
 
 #include <utility>
 
 #if defined(__SSSE3__)
 #include <tmmintrin.h>
+#endif
+#if defined(__AVX2__) || defined(__AVX512F__)
+#include <immintrin.h>
 #endif
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -283,11 +287,68 @@ inline void swapPixels(const S* s, S* d, int from, int to, const int* o)
     }
 }
 
+#if defined(__AVX512F__) && defined(__AVX512BW__)
+// Three-channel pixels of 2- or 4-byte samples, three 64-byte vectors (32 or 16 pixels) at a
+// time: output vector k takes its samples from input vectors k and k+1 with one two-source
+// permute (k - 1 and k for the last); the middle one's first and last samples, which lie one
+// vector further, are put in with a second, masked permute. Returns the pixels done.
+template <class S>
+int swapRowC3Wide(const S* s, S* d, int width, const int* o)
+{
+    constexpr int lanes = 64 / static_cast<int>(sizeof(S)), block = lanes;  // pixels per block of three vectors
+    using Index = std::conditional_t<sizeof(S) == 4, int32_t, int16_t>;
+    alignas(64) Index idx[3][lanes], far[lanes];
+    uint64_t farMask = 0;
+    for (int k = 0; k < 3; ++k)
+        for (int j = 0; j < lanes; ++j) {
+            const int m = k * lanes + j, t = 3 * (m / 3) + o[m % 3];
+            const int base = k == 2 ? lanes : 0;  // vectors k, k+1 (k - 1, k for the last)
+            idx[k][j] = static_cast<Index>(t - base < 2 * lanes ? t - base : 0);
+            if (k == 1) {
+                far[j] = static_cast<Index>(t >= 2 * lanes ? t - 2 * lanes : 0);
+                if (t >= 2 * lanes) farMask |= uint64_t{1} << j;
+            }
+        }
+    const __m512i i0 = _mm512_load_si512(idx[0]), i1 = _mm512_load_si512(idx[1]), i2 = _mm512_load_si512(idx[2]);
+    const __m512i iFar = _mm512_load_si512(far);
+    int x = 0;
+    for (; x + block <= width; x += block) {
+        const S* p = s + 3 * static_cast<std::ptrdiff_t>(x);
+        const __m512i a = _mm512_loadu_si512(p), b = _mm512_loadu_si512(p + lanes), c = _mm512_loadu_si512(p + 2 * lanes);
+        __m512i r0, r1, r2;
+        if constexpr (sizeof(S) == 4) {
+            r0 = _mm512_permutex2var_epi32(a, i0, b);
+            r1 = _mm512_mask_permutexvar_epi32(_mm512_permutex2var_epi32(a, i1, b), static_cast<__mmask16>(farMask), iFar, c);
+            r2 = _mm512_permutex2var_epi32(b, i2, c);
+        } else {
+            r0 = _mm512_permutex2var_epi16(a, i0, b);
+            r1 = _mm512_mask_permutexvar_epi16(_mm512_permutex2var_epi16(a, i1, b), static_cast<__mmask32>(farMask), iFar, c);
+            r2 = _mm512_permutex2var_epi16(b, i2, c);
+        }
+        S* q = d + 3 * static_cast<std::ptrdiff_t>(x);
+        _mm512_storeu_si512(q, r0);
+        _mm512_storeu_si512(q + lanes, r1);
+        _mm512_storeu_si512(q + 2 * lanes, r2);
+    }
+    return x;
+}
+#endif
+
 template <class S, int SrcN, int DstN, int Count>
 void swapRows(const S* src, int srcStep, S* dst, int dstStep, PxliSize roi, const int* order)
 {
     int o[Count];
     for (int c = 0; c < Count; ++c) o[c] = order[c];
+#if defined(__AVX512F__) && defined(__AVX512BW__)
+    if constexpr (SrcN == 3 && DstN == 3 && Count == 3 && sizeof(S) >= 2) {
+        for (int y = 0; y < roi.height; ++y) {
+            const S* s = rowAt(src, srcStep, y);
+            S* d = rowAt(dst, dstStep, y);
+            swapPixels<S, 3, 3, 3>(s, d, swapRowC3Wide<S>(s, d, roi.width, o), roi.width, o);
+        }
+        return;
+    }
+#endif
 #if defined(__SSSE3__)
     // As many whole pixels as one 16-byte window holds on both sides move with one byte shuffle.
     // The window's tail beyond those pixels is the next pixels' bytes: where the layouts match it
@@ -317,13 +378,36 @@ void swapRows(const S* src, int srcStep, S* dst, int dstStep, PxliSize roi, cons
             S* d = rowAt(dst, dstStep, y);
             const auto* sb = reinterpret_cast<const uint8_t*>(s);
             auto* db = reinterpret_cast<uint8_t*>(d);
-            for (int x = 0; x < vecPixels; x += g) {
+            int x = 0;
+            // Pixels that tile a 16-byte window on both sides: the same shuffle in every 16-byte
+            // lane of a wider vector.
+            if constexpr (ps == pd && 16 % ps == 0) {
+#if defined(__AVX512BW__)
+                PXL_AVX512_KERNEL_BEGIN
+                const __m512i mask4 = _mm512_broadcast_i32x4(mask), keep4 = _mm512_broadcast_i32x4(keepMask);
+                for (; x + 64 / ps <= roi.width; x += 64 / ps) {
+                    __m512i out = _mm512_shuffle_epi8(_mm512_loadu_si512(sb + x * ps), mask4);
+                    if constexpr (decltype(blend)::value) out = _mm512_or_si512(out, _mm512_and_si512(_mm512_loadu_si512(db + x * pd), keep4));
+                    _mm512_storeu_si512(db + x * pd, out);
+                }
+                PXL_AVX512_KERNEL_END
+#elif defined(__AVX2__)
+                const __m256i mask2 = _mm256_broadcastsi128_si256(mask), keep2 = _mm256_broadcastsi128_si256(keepMask);
+                for (; x + 32 / ps <= roi.width; x += 32 / ps) {
+                    __m256i out = _mm256_shuffle_epi8(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(sb + x * ps)), mask2);
+                    if constexpr (decltype(blend)::value)
+                        out = _mm256_or_si256(out, _mm256_and_si256(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(db + x * pd)), keep2));
+                    _mm256_storeu_si256(reinterpret_cast<__m256i*>(db + x * pd), out);
+                }
+#endif
+            }
+            for (; x < vecPixels; x += g) {
                 __m128i out = _mm_shuffle_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(sb + x * ps)), mask);
                 if constexpr (decltype(blend)::value)
                     out = _mm_or_si128(out, _mm_and_si128(_mm_loadu_si128(reinterpret_cast<const __m128i*>(db + x * pd)), keepMask));
                 _mm_storeu_si128(reinterpret_cast<__m128i*>(db + x * pd), out);
             }
-            swapPixels<S, SrcN, DstN, Count>(s, d, vecPixels, roi.width, o);
+            swapPixels<S, SrcN, DstN, Count>(s, d, x, roi.width, o);
         }
     };
     // Only AC4 keeps channels, and its windows hold whole pixels, so a blend never reads bytes

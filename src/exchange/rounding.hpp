@@ -6,6 +6,8 @@
 #pragma once
 
 #include <cfenv>
+
+#include "frame/simd.hpp"
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -104,12 +106,7 @@ inline void krnRoundRow(const float* s, D* d, int n)
     // Sixteen at a time with the rounding written into each instruction, so no control register
     // takes part: both ends clamped in float (NaN zeroed by the mask of the conversion), the half
     // of code 2 added toward zero, converted, and narrowed with no saturation left to do.
-#if defined(__GNUC__) && !defined(__clang__)
-    // GCC's 512-bit intrinsics pass an undefined vector for the lanes no mask keeps and then warn
-    // about it after inlining.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
-#endif
+    PXL_AVX512_KERNEL_BEGIN
     if constexpr (sizeof(D) <= 2) {
         using L = std::numeric_limits<D>;
         const __m512 lo = _mm512_set1_ps(float(L::min())), hi = _mm512_set1_ps(float(L::max()));
@@ -131,9 +128,7 @@ inline void krnRoundRow(const float* s, D* d, int n)
             else _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i), _mm512_cvtepi32_epi16(k));
         }
     }
-#if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC diagnostic pop
-#endif
+    PXL_AVX512_KERNEL_END
 #endif
     if constexpr (packable) {
         const unsigned saved = _mm_getcsr();

@@ -106,6 +106,14 @@ std::vector<std::pair<const char*, Op>> ops()
         static const int order[3] = {2, 0, 1};
         pxliSwapChannels_8u_C3R(s, ss, d, ds, r, order);
     }));
+    v.emplace_back("SwapChannels 32f C3", unary<F32, F32>(3, 3, [](const F32* s, int ss, F32* d, int ds, PxliSize r) {
+        static const int order[3] = {1, 2, 0};
+        pxliSwapChannels_32f_C3R(s, ss, d, ds, r, order);
+    }));
+    v.emplace_back("SwapChannels 16u C3", unary<Pxl16u, Pxl16u>(3, 3, [](const Pxl16u* s, int ss, Pxl16u* d, int ds, PxliSize r) {
+        static const int order[3] = {2, 2, 0};
+        pxliSwapChannels_16u_C3R(s, ss, d, ds, r, order);
+    }));
     v.emplace_back("Transpose 8u C1", [](int w, int h, uint64_t seed) {
         Rng rng(seed);
         GuardedImage<U8> a(w, h), d(h, w);
