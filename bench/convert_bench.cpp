@@ -7,8 +7,10 @@ namespace {
 using pxlbench::H;
 using pxlbench::W;
 
+// The peer's convertTo with a scale and a shift (1 and 0 for the plain conversions).
 template <class S, class D, class Ours>
-void pair(const std::string& name, [[maybe_unused]] pxlbench::MatType cvSrc, [[maybe_unused]] pxlbench::MatType cvDst, Ours ours)
+void pair(const std::string& name, [[maybe_unused]] pxlbench::MatType cvSrc, [[maybe_unused]] pxlbench::MatType cvDst, Ours ours,
+          [[maybe_unused]] double alpha = 1.0, [[maybe_unused]] double beta = 0.0)
 {
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(S)), d(W, H, sizeof(D));
@@ -25,7 +27,7 @@ void pair(const std::string& name, [[maybe_unused]] pxlbench::MatType cvSrc, [[m
         if constexpr (std::is_same_v<S, Pxl32f>) a.fillFloats(-50.0f, 300.0f);
         cv::Mat ma = a.mat(cvSrc), md = d.mat(cvDst);
         for (auto _ : s) {
-            ma.convertTo(md, pxlbench::cvType(cvDst));
+            ma.convertTo(md, pxlbench::cvType(cvDst), alpha, beta);
             benchmark::ClobberMemory();
         }
     });
@@ -37,6 +39,12 @@ void convertBenchmarks()
     const std::string sz = pxlbench::sizeTag();
     pair<Pxl8u, Pxl32f>("Convert 8u32f C1" + sz, pxlbench::k8uC1, pxlbench::k32fC1,
                         [](auto... a) { return pxliConvert_8u32f_C1R(a...); });
+    pair<Pxl32f, Pxl8u>("ScaleC 32f8u C1" + sz, pxlbench::k32fC1, pxlbench::k8uC1,
+                        [](const Pxl32f* s, int ss, Pxl8u* d, int ds, PxliSize r) { return pxliScaleC_32f8u_C1R(s, ss, 0.75, 3.5, d, ds, r, 0); },
+                        0.75, 3.5);
+    pair<Pxl8u, Pxl32f>("ScaleC 8u32f C1" + sz, pxlbench::k8uC1, pxlbench::k32fC1,
+                        [](const Pxl8u* s, int ss, Pxl32f* d, int ds, PxliSize r) { return pxliScaleC_8u32f_C1R(s, ss, 0.75, 3.5, d, ds, r, 0); },
+                        0.75, 3.5);
     pair<Pxl16s, Pxl32f>("Convert 16s32f C1" + sz, pxlbench::k16sC1, pxlbench::k32fC1,
                          [](auto... a) { return pxliConvert_16s32f_C1R(a...); });
     pair<Pxl32f, Pxl8u>("Convert 32f8u C1 nearest" + sz, pxlbench::k32fC1, pxlbench::k8uC1,

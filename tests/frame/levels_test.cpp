@@ -98,6 +98,15 @@ std::vector<std::pair<const char*, Op>> ops()
     v.emplace_back("ScaleC 32f8u", unary<F32, U8>(1, 1, [](const F32* s, int ss, U8* d, int ds, PxliSize r) {
         pxliScaleC_32f8u_C1R(s, ss, 0.37, 11.5, d, ds, r, 0);
     }));
+    v.emplace_back("ScaleC 16s32s", unary<S16, Pxl32s>(1, 1, [](const S16* s, int ss, Pxl32s* d, int ds, PxliSize r) {
+        pxliScaleC_16s32s_C1R(s, ss, -70000.25, 0.5, d, ds, r, 0);
+    }));
+    v.emplace_back("ScaleC 64f8s", unary<Pxl64f, Pxl8s>(1, 1, [](const Pxl64f* s, int ss, Pxl8s* d, int ds, PxliSize r) {
+        pxliScaleC_64f8s_C1R(s, ss, 1e-3, -0.5, d, ds, r, 0);
+    }));
+    v.emplace_back("ScaleC 32s32f", unary<Pxl32s, F32>(1, 1, [](const Pxl32s* s, int ss, F32* d, int ds, PxliSize r) {
+        pxliScaleC_32s32f_C1R(s, ss, 1e30, 1.0, d, ds, r, 0);
+    }));
     v.emplace_back("Threshold GT 8u", unary<U8, U8>(1, 1, [](auto... a) { pxliThreshold_GT_8u_C1R(a..., 100); }));
     v.emplace_back("Threshold GT 32f", unary<F32, F32>(1, 1, [](auto... a) { pxliThreshold_GT_32f_C1R(a..., 0.25f); }));
     v.emplace_back("Mirror 8u C1 both", unary<U8, U8>(1, 1, [](auto... a) { pxliMirror_8u_C1R(a..., pxlAxisBoth); }));
