@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cfenv>
 #include <cfloat>
+#include <cstring>
 
 namespace pxl::exch {
 
@@ -314,10 +315,64 @@ template <class D> inline void storeScaled(D* p, __m512d v)
         else _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), k);
     }
 }
+#elif defined(__AVX2__)
+// Four samples of S as doubles (exact for every S).
+template <class S> inline __m256d loadAsDouble(const S* p)
+{
+    if constexpr (std::is_same_v<S, Pxl64f>) return _mm256_loadu_pd(p);
+    else if constexpr (std::is_same_v<S, Pxl32f>) return _mm256_cvtps_pd(_mm_loadu_ps(p));
+    else if constexpr (std::is_same_v<S, Pxl32s>) return _mm256_cvtepi32_pd(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p)));
+    else {
+        int32_t four32;
+        int64_t four64;
+        __m128i raw;
+        if constexpr (sizeof(S) == 1) {
+            std::memcpy(&four32, p, 4);
+            raw = _mm_cvtsi32_si128(four32);
+        } else {
+            std::memcpy(&four64, p, 8);
+            raw = _mm_cvtsi64_si128(four64);
+        }
+        __m128i w;
+        if constexpr (std::is_same_v<S, Pxl8u>) w = _mm_cvtepu8_epi32(raw);
+        else if constexpr (std::is_same_v<S, Pxl8s>) w = _mm_cvtepi8_epi32(raw);
+        else if constexpr (std::is_same_v<S, Pxl16u>) w = _mm_cvtepu16_epi32(raw);
+        else w = _mm_cvtepi16_epi32(raw);
+        return _mm256_cvtepi32_pd(w);
+    }
+}
+
+// Four values stored as D by scaleCValue's rule; the conversions round by the nearest mode the
+// call holds. Integers: NaN zeroed, clamped, converted, and packed with nothing to saturate.
+template <class D> inline void storeScaled(D* p, __m256d v)
+{
+    if constexpr (std::is_same_v<D, Pxl64f>) {
+        _mm256_storeu_pd(p, v);
+    } else if constexpr (std::is_same_v<D, Pxl32f>) {
+        v = _mm256_max_pd(_mm256_set1_pd(-FLT_MAX), _mm256_min_pd(_mm256_set1_pd(FLT_MAX), v));
+        _mm_storeu_ps(p, _mm256_cvtpd_ps(v));
+    } else {
+        using L = std::numeric_limits<D>;
+        v = _mm256_and_pd(v, _mm256_cmp_pd(v, v, _CMP_ORD_Q));
+        v = _mm256_min_pd(_mm256_max_pd(v, _mm256_set1_pd(double(L::min()))), _mm256_set1_pd(double(L::max())));
+        const __m128i k = _mm256_cvtpd_epi32(v);
+        if constexpr (sizeof(D) == 4) {
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(p), k);
+        } else {
+            const __m128i w = std::is_same_v<D, Pxl16u> ? _mm_packus_epi32(k, k) : _mm_packs_epi32(k, k);
+            if constexpr (sizeof(D) == 2) {
+                _mm_storel_epi64(reinterpret_cast<__m128i*>(p), w);
+            } else {
+                const int32_t bytes = _mm_cvtsi128_si32(std::is_same_v<D, Pxl8u> ? _mm_packus_epi16(w, w) : _mm_packs_epi16(w, w));
+                std::memcpy(p, &bytes, 4);
+            }
+        }
+    }
+}
 #endif
 
-// A row of ScaleC: eight samples at a time in 512-bit vectors where the processor has them (the
-// same double arithmetic, so the same bits), then one by one.
+// A row of ScaleC: eight samples at a time in 512-bit vectors, or four in 256-bit ones, where the
+// processor has them (the same double arithmetic, so the same bits), then one by one.
 template <class S, class D>
 inline void scaleCRow(const S* s, D* d, int n, double m, double a)
 {
@@ -329,6 +384,9 @@ inline void scaleCRow(const S* s, D* d, int n, double m, double a)
         storeScaled<D>(d + i, _mm512_add_round_pd(_mm512_mul_round_pd(loadAsDouble<S>(s + i), vm, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC),
                                                   va, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC));
     PXL_AVX512_KERNEL_END
+#elif defined(__AVX2__)
+    const __m256d vm = _mm256_set1_pd(m), va = _mm256_set1_pd(a);
+    for (; i + 4 <= n; i += 4) storeScaled<D>(d + i, _mm256_add_pd(_mm256_mul_pd(loadAsDouble<S>(s + i), vm), va));
 #endif
     for (; i < n; ++i) d[i] = scaleCValue<D>(double(s[i]) * m + a);
 }
