@@ -23,53 +23,63 @@ template <Rule R> inline int sourceIndex(int i, int n)
     else return wrapIndex(i, n);
 }
 
-template <class S, class L> inline void putPixel(S* d, const S* s)
-{
-    for (int c = 0; c < L::proc; ++c) d[c] = s[c];
-}
-
 struct Geometry {
     PxliSize src, dst;
     int top, left;
 };
 
-// Columns x0..x1-1 of the frame's interior rows by a rule that points at other pixels of the
-// same row. Where those pixels come from is the same in every row, so it is worked out once per
-// call, as runs of columns whose sources follow each other forwards or backwards (a mirrored side
+// Columns of the frame's interior rows made by a rule that points at other pixels of the same
+// row. Where those pixels come from is the same in every row, so it is worked out once per call,
+// as runs of columns whose sources follow each other forwards or backwards (a mirrored side
 // narrower than the image is one backward run); each row then copies or reverses whole runs.
+// One set holds up to kRuns runs from column x0 on; `end` is where they stop.
 template <class S, class L, Rule R>
-void sideColumns(const S* src, int srcStep, S* frame, int dstStep, const Geometry& g, int x0, int x1)
-{
-    constexpr int N = L::mem, kRuns = 64;
+struct SideRuns {
+    static constexpr int kRuns = 64;
     struct Run {
         int column, first, length;  // `first` is the source of `column`, the run's first column
         bool backward;
     };
     Run runs[kRuns];
-    const int w = g.src.width;
-    for (int x = x0; x < x1;) {
-        int count = 0;
-        for (; x < x1 && count < kRuns; ++count) {
+    int count = 0, end;
+
+    SideRuns(const Geometry& g, int x0, int x1) : end(x0)
+    {
+        const int w = g.src.width;
+        for (; end < x1 && count < kRuns; ++count) {
             Run& r = runs[count];
-            r = {x, sourceIndex<R>(x - g.left, w), 1, false};
-            if (x + 1 < x1 && w > 1) {
-                r.backward = sourceIndex<R>(x + 1 - g.left, w) == r.first - 1;
+            r = {end, sourceIndex<R>(end - g.left, w), 1, false};
+            if (end + 1 < x1 && w > 1) {
+                r.backward = sourceIndex<R>(end + 1 - g.left, w) == r.first - 1;
                 const int dir = r.backward ? -1 : 1;
-                while (x + r.length < x1 && sourceIndex<R>(x + r.length - g.left, w) == r.first + dir * r.length) ++r.length;
+                while (end + r.length < x1 && sourceIndex<R>(end + r.length - g.left, w) == r.first + dir * r.length) ++r.length;
             }
-            x += r.length;
+            end += r.length;
         }
-        for (int i = 0; i < g.src.height; ++i) {
-            const S* s = rowAt(src, srcStep, i);
-            S* d = rowAt(frame, dstStep, g.top + i);
-            for (int k = 0; k < count; ++k) {
-                const Run& r = runs[k];
-                if (r.backward)
-                    krnReversePixels<S, L>(s + std::ptrdiff_t{N} * (r.first - r.length + 1), d + std::ptrdiff_t{N} * r.column, r.length);
-                else
-                    krnCopyPixels<S, L>(s + std::ptrdiff_t{N} * r.first, d + std::ptrdiff_t{N} * r.column, r.length);
-            }
+    }
+    // The runs of one row: s is its source row, d its frame row.
+    void apply(const S* s, S* d) const
+    {
+        constexpr int N = L::mem;
+        for (int k = 0; k < count; ++k) {
+            const Run& r = runs[k];
+            if (r.backward)
+                krnReversePixels<S, L>(s + std::ptrdiff_t{N} * (r.first - r.length + 1), d + std::ptrdiff_t{N} * r.column, r.length);
+            else
+                krnCopyPixels<S, L>(s + std::ptrdiff_t{N} * r.first, d + std::ptrdiff_t{N} * r.column, r.length);
         }
+    }
+};
+
+// Columns x0..x1-1 of every interior row that the first sets of runs did not reach (narrow
+// images, whose sides bounce many times): one set of runs after another, each over all rows.
+template <class S, class L, Rule R>
+void remainingSideColumns(const S* src, int srcStep, S* frame, int dstStep, const Geometry& g, int x0, int x1)
+{
+    for (int x = x0; x < x1;) {
+        const SideRuns<S, L, R> runs(g, x, x1);
+        for (int i = 0; i < g.src.height; ++i) runs.apply(rowAt(src, srcStep, i), rowAt(frame, dstStep, g.top + i));
+        x = runs.end;
     }
 }
 
@@ -80,24 +90,27 @@ void makeFrame(const S* src, int srcStep, S* frame, int dstStep, const Geometry&
 {
     constexpr int N = L::mem;
     const int W = g.src.width, H = g.src.height, right = g.left + W;
+    constexpr bool runs = R == Rule::Mirror || R == Rule::Wrap;
+    const SideRuns<S, L, R> leftRuns(g, 0, runs ? g.left : 0), rightRuns(g, right, runs ? g.dst.width : right);
     for (int i = 0; i < H; ++i) {
         const S* s = rowAt(src, srcStep, i);
         S* d = rowAt(frame, dstStep, g.top + i);
         if constexpr (R == Rule::Constant) {
-            krnFillPixels<S, L>(value, d, 0, g.left, 1);
-            krnFillPixels<S, L>(value, d + std::ptrdiff_t{N} * right, 0, g.dst.width - right, 1);
+            krnRepeatPixel<S, L>(value, d, g.left);
+            krnRepeatPixel<S, L>(value, d + std::ptrdiff_t{N} * right, g.dst.width - right);
         } else if constexpr (R == Rule::Replicate) {
             // The edge pixels themselves, repeated: one fixed source per side.
-            const S* first = s;
-            const S* last = s + std::ptrdiff_t{N} * (W - 1);
-            for (int x = 0; x < g.left; ++x) putPixel<S, L>(d + N * x, first);
-            for (int x = right; x < g.dst.width; ++x) putPixel<S, L>(d + std::ptrdiff_t{N} * x, last);
+            krnRepeatPixel<S, L>(s, d, g.left);
+            krnRepeatPixel<S, L>(s + std::ptrdiff_t{N} * (W - 1), d + std::ptrdiff_t{N} * right, g.dst.width - right);
+        } else {
+            leftRuns.apply(s, d);
+            rightRuns.apply(s, d);
         }
         if (!inPlace) krnCopyPixels<S, L>(s, d + std::ptrdiff_t{N} * g.left, W);
     }
-    if constexpr (R == Rule::Mirror || R == Rule::Wrap) {
-        sideColumns<S, L, R>(src, srcStep, frame, dstStep, g, 0, g.left);
-        sideColumns<S, L, R>(src, srcStep, frame, dstStep, g, right, g.dst.width);
+    if constexpr (runs) {
+        remainingSideColumns<S, L, R>(src, srcStep, frame, dstStep, g, leftRuns.end, g.left);
+        remainingSideColumns<S, L, R>(src, srcStep, frame, dstStep, g, rightRuns.end, g.dst.width);
     }
     for (int y = 0; y < g.dst.height; ++y) {
         if (y >= g.top && y < g.top + H) continue;

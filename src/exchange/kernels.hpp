@@ -58,6 +58,32 @@ inline void krnCopyPixels(const S* src, S* dst, int width)
     }
 }
 
+// `count` copies of one pixel of layout L in a row, for short runs such as a border's sides: a
+// block of whole pixels is built once and stored as often as it fits (AC4 leaves the fourth
+// sample). The pixel may lie in the row that is written.
+template <class S, class L>
+inline void krnRepeatPixel(const S* pixel, S* dst, int count)
+{
+    if constexpr (L::hasAlpha) {
+        const S v0 = pixel[0], v1 = pixel[1], v2 = pixel[2];
+        for (std::ptrdiff_t x = 0; x < count; ++x) {
+            dst[4 * x] = v0;
+            dst[4 * x + 1] = v1;
+            dst[4 * x + 2] = v2;
+        }
+    } else {
+        constexpr std::size_t B = L::mem * sizeof(S), P = 16 % B == 0 ? 64 : 48;  // whole pixels
+        unsigned char block[P];
+        std::memcpy(block, pixel, B);
+        for (std::size_t k = B; k < P; k += B) std::memcpy(block + k, block, B);
+        auto* d = reinterpret_cast<unsigned char*>(dst);
+        const std::size_t bytes = static_cast<std::size_t>(count) * B;
+        std::size_t off = 0;
+        for (; off + P <= bytes; off += P) std::memcpy(d + off, block, P);
+        std::memcpy(d + off, block, bytes - off);
+    }
+}
+
 // Fills `rows` rows of `width` pixels of layout L with one pixel; AC4 leaves the fourth sample.
 template <class S, class L>
 inline void krnFillPixels(const S* pixel, S* dst, int step, int width, int rows)

@@ -42,6 +42,13 @@ Shape randomShape(Rng& rng)
     s.left = rng.uniformInt(0, 12);  // often wider than the image
     s.dw = s.w + s.left + rng.uniformInt(0, 12);
     s.dh = s.h + s.top + rng.uniformInt(0, 12);
+    if (rng.chance(0.2)) {
+        // Wide sides: runs long enough for the vector bodies, and on a narrow image more runs
+        // than one pass over the rows takes.
+        s.w = rng.chance(0.5) ? rng.uniformInt(1, 3) : rng.uniformInt(17, 80);
+        s.left = rng.uniformInt(60, 200);
+        s.dw = s.w + s.left + rng.uniformInt(60, 200);
+    }
     return s;
 }
 
