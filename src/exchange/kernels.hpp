@@ -59,8 +59,9 @@ inline void krnCopyPixels(const S* src, S* dst, int width)
 }
 
 // `count` copies of one pixel of layout L in a row, for short runs such as a border's sides: a
-// block of whole pixels is built once and stored as often as it fits (AC4 leaves the fourth
-// sample). The pixel may lie in the row that is written.
+// byte fill where every byte of the pixel is the same, else a block of whole pixels built once and
+// stored as often as it fits (AC4 leaves the fourth sample). The pixel may lie in the row that is
+// written.
 template <class S, class L>
 inline void krnRepeatPixel(const S* pixel, S* dst, int count)
 {
@@ -73,6 +74,11 @@ inline void krnRepeatPixel(const S* pixel, S* dst, int count)
         }
     } else {
         constexpr std::size_t B = L::mem * sizeof(S), P = 16 % B == 0 ? 64 : 48;  // whole pixels
+        const auto* px = reinterpret_cast<const unsigned char*>(pixel);
+        if (std::all_of(px, px + B, [px](unsigned char b) { return b == px[0]; })) {
+            std::memset(dst, px[0], static_cast<std::size_t>(count) * B);
+            return;
+        }
         unsigned char block[P];
         std::memcpy(block, pixel, B);
         for (std::size_t k = B; k < P; k += B) std::memcpy(block + k, block, B);
