@@ -16,5 +16,6 @@
 #include "pxlipx/threshold.h"
 #include "pxlipx/border.h"
 #include "pxlipx/synthetic.h"
+#include "pxlipx/statistics.h"
 
 #endif

@@ -4,3 +4,4 @@
 #include "frame/frame.hpp"
 #include "exchange/exchange.hpp"
 #include "arithmetic/arithmetic.hpp"
+#include "statistics/statistics.hpp"

@@ -155,6 +155,9 @@ enum PxlFilterRoundValue { pxlFilterModeHint = 0x10000 };
 /* Algorithm hint of the float reductions. */
 typedef int32_t PxlHint;
 
+/* The histogram record, in a buffer of the size pxliHistogramGetBufferSize gives. */
+typedef struct PxliHistogramSpec PxliHistogramSpec;
+
 /* The version record that pxliGetLibVersion points at. */
 typedef struct PxlVersionRecord {
     int32_t     versionMajor;
