@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <type_traits>
 
 #ifdef PXL_BENCH_OPENCV
 #include <opencv2/core.hpp>
@@ -53,6 +54,12 @@ struct Image {
     cv::Mat mat(MatType t) const { return cv::Mat(height, width, cvType(t), data, static_cast<std::size_t>(step)); }
 #endif
 };
+
+// 32f images as pixel values from 0 to 255 with fractions; other types keep their bytes.
+template <class T> void pixelValues(Image& img)
+{
+    if constexpr (std::is_same_v<T, Pxl32f>) img.fillFloats(0.0f, 255.0f);
+}
 
 // The frame every op runs on: 1920x1080 unless the command line says `--size=WxH`. It is read
 // when the ops register, after the command line, and sizeTag() ("/1920x1080") ends their names.

@@ -11,17 +11,12 @@ namespace {
 using pxlbench::H;
 using pxlbench::W;
 
-template <class T> void prepare(pxlbench::Image& img)
-{
-    if constexpr (std::is_same_v<T, Pxl32f>) img.fillFloats(0.0f, 255.0f);
-}
-
 template <class T, class Ours>
 void threshold(const std::string& name, [[maybe_unused]] pxlbench::MatType peerType, Ours ours)
 {
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(T)), d(W, H, sizeof(T));
-        prepare<T>(a);
+        pxlbench::pixelValues<T>(a);
         for (auto _ : s) {
             benchmark::DoNotOptimize(ours(a.as<T>(), a.step, d.as<T>(), d.step, PxliSize{W, H}));
             benchmark::ClobberMemory();
@@ -31,7 +26,7 @@ void threshold(const std::string& name, [[maybe_unused]] pxlbench::MatType peerT
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(T)), d(W, H, sizeof(T));
-        prepare<T>(a);
+        pxlbench::pixelValues<T>(a);
         cv::Mat ma = a.mat(peerType), md = d.mat(peerType);
         for (auto _ : s) {
             cv::threshold(ma, md, 100, 255, cv::THRESH_TRUNC);
@@ -46,8 +41,8 @@ void compare(const std::string& name, [[maybe_unused]] pxlbench::MatType peerTyp
 {
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(T)), b(W, H, sizeof(T)), d(W, H, 1);
-        prepare<T>(a);
-        prepare<T>(b);
+        pxlbench::pixelValues<T>(a);
+        pxlbench::pixelValues<T>(b);
         for (auto _ : s) {
             benchmark::DoNotOptimize(ours(a.as<T>(), a.step, b.as<T>(), b.step, d.as<Pxl8u>(), d.step, PxliSize{W, H}));
             benchmark::ClobberMemory();
@@ -57,8 +52,8 @@ void compare(const std::string& name, [[maybe_unused]] pxlbench::MatType peerTyp
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
         pxlbench::Image a(W, H, sizeof(T)), b(W, H, sizeof(T)), d(W, H, 1);
-        prepare<T>(a);
-        prepare<T>(b);
+        pxlbench::pixelValues<T>(a);
+        pxlbench::pixelValues<T>(b);
         cv::Mat ma = a.mat(peerType), mb = b.mat(peerType), md = d.mat(pxlbench::k8uC1);
         for (auto _ : s) {
             cv::compare(ma, mb, md, cv::CMP_LT);
