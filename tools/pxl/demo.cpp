@@ -260,6 +260,70 @@ void noiseLogicDemo(Context& ctx)
     ctx.time("pxliImageJaehne_8u_C1R", size, px, [&] { pxliImageJaehne_8u_C1R(out.data, out.step, roi); });
 }
 
+// Statistics: the histogram of each channel of the colour image drawn as bars, the gray image
+// split at its Otsu threshold, and the channel means and extremes in the notes.
+void statisticsDemo(Context& ctx)
+{
+    const Image& src = ctx.rgb;
+    const Image& gray = ctx.gray;
+    const PxliSize roi = src.size();
+    const int levels[3] = {257, 257, 257};
+    const float lo[3] = {0, 0, 0}, hi[3] = {256, 256, 256};
+    int specSize = 0, bufferSize = 0;
+    pxliHistogramGetBufferSize(pxlDt8u, roi, levels, 3, 1, &specSize, &bufferSize);
+    int32_t unusedStep = 0;
+    auto* spec = reinterpret_cast<PxliHistogramSpec*>(pxliMalloc_8u_C1(specSize, 1, &unusedStep));
+    Pxl8u* buffer = pxliMalloc_8u_C1(bufferSize, 1, &unusedStep);
+    Pxl32s counts[3][256];
+    Pxl32s* const hist[3] = {counts[0], counts[1], counts[2]};
+    pxliHistogramUniformInit(pxlDt8u, lo, hi, levels, 3, spec);
+    pxliHistogram_8u_C3R(src.data, src.step, roi, hist, spec, buffer);
+
+    // One panel per channel, two pixels a bin, bars scaled to the channel's fullest bin.
+    constexpr int panel = 120;
+    Image plot(512, 3 * panel, 3);
+    static const Pxl8u paper[3] = {250, 250, 245};
+    pxliSet_8u_C3R(paper, plot.data, plot.step, plot.size());
+    for (int c = 0; c < 3; ++c) {
+        const Pxl32s top = std::max(1, *std::max_element(counts[c], counts[c] + 256));
+        for (int v = 0; v < 256; ++v) {
+            const int bar = static_cast<int>(static_cast<double>(counts[c][v]) * (panel - 8) / top + 0.5);
+            for (int y = 0; y < bar; ++y)
+                for (int x = 2 * v; x < 2 * v + 2; ++x) {
+                    Pxl8u* px = plot.data + static_cast<std::ptrdiff_t>((c + 1) * panel - 1 - y) * plot.step + 3 * x;
+                    px[0] = px[1] = px[2] = 40;
+                    px[c] = 220;
+                }
+        }
+    }
+    ctx.save("histogram_rgb", plot);
+
+    Pxl8u threshold = 0;
+    pxliComputeThreshold_Otsu_8u_C1R(gray.data, gray.step, gray.size(), &threshold);
+    Image split(gray.width, gray.height, 1);
+    pxliCompareC_8u_C1R(gray.data, gray.step, threshold, split.data, split.step, gray.size(), pxlCmpGreater);
+    ctx.save("otsu_split", split);
+
+    Pxl64f mean[3];
+    Pxl8u minimum[3], maximum[3];
+    pxliMean_8u_C3R(src.data, src.step, roi, mean);
+    pxliMinMax_8u_C3R(src.data, src.step, roi, minimum, maximum);
+    char note[160];
+    std::snprintf(note, sizeof note, "Otsu threshold of the gray image: %d; channel means %.2f %.2f %.2f, ranges %d-%d %d-%d %d-%d",
+                  threshold, mean[0], mean[1], mean[2], minimum[0], maximum[0], minimum[1], maximum[1], minimum[2], maximum[2]);
+    ctx.notes.push_back(note);
+
+    const std::string size = std::to_string(src.width) + "x" + std::to_string(src.height);
+    const double px = static_cast<double>(src.width) * src.height;
+    ctx.time("pxliHistogram_8u_C3R (256 bins)", size, px, [&] { pxliHistogram_8u_C3R(src.data, src.step, roi, hist, spec, buffer); });
+    ctx.time("pxliComputeThreshold_Otsu_8u_C1R", size, px,
+             [&] { pxliComputeThreshold_Otsu_8u_C1R(gray.data, gray.step, gray.size(), &threshold); });
+    ctx.time("pxliMean_8u_C3R", size, px, [&] { pxliMean_8u_C3R(src.data, src.step, roi, mean); });
+    ctx.time("pxliMinMax_8u_C3R", size, px, [&] { pxliMinMax_8u_C3R(src.data, src.step, roi, minimum, maximum); });
+    pxliFree(buffer);
+    pxliFree(spec);
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -273,6 +337,7 @@ const std::vector<Entry>& entries()
         {"threshold", thresholdDemo},
         {"border", borderDemo},
         {"noise and logic", noiseLogicDemo},
+        {"statistics", statisticsDemo},
     };
     return all;
 }
@@ -288,11 +353,12 @@ int run(const std::string& outDir)
     const Image rgb(512, 384, 3), gray(512, 384, 1);
     if (!rgb.data || !gray.data) return 1;
     synthesise(rgb, gray);
-    Context ctx{outDir, rgb, gray, {}, {}};
+    Context ctx{outDir, rgb, gray, {}, {}, {}};
     for (const Entry& e : entries()) e.run(ctx);
 
     std::printf("Wrote %zu images into %s/:\n", ctx.files.size(), outDir.c_str());
     for (const auto& f : ctx.files) std::printf("  %s\n", f.c_str());
+    for (const auto& n : ctx.notes) std::printf("%s\n", n.c_str());
     std::printf("\n%-44s %-12s %14s %12s\n", "operation", "size", "ns per call", "Mpix/s");
     for (const auto& r : ctx.rows) {
         if (r.mpixPerSec > 0) std::printf("%-44s %-12s %14.1f %12.1f\n", r.op.c_str(), r.size.c_str(), r.nsPerCall, r.mpixPerSec);

@@ -33,6 +33,7 @@ struct Context {
     struct Row { std::string op, size; double nsPerCall, mpixPerSec; };
     std::vector<Row> rows;
     std::vector<std::string> files;
+    std::vector<std::string> notes;  // printed after the list of files
 };
 
 // Each family's demo: a name and what it does with the context.
