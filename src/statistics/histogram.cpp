@@ -281,7 +281,7 @@ PxlStatus histogram(const T* pSrc, int srcStep, PxliSize roi, Pxl32s* const* pHi
         // One counter per 16-bit value and channel, in the work buffer.
         constexpr int64_t lowest = std::numeric_limits<T>::lowest();
         auto* table = reinterpret_cast<LooseU32*>(pBuffer);
-        std::fill_n(table, 65536 * N, 0u);
+        std::memset(pBuffer, 0, sizeof(uint32_t) * 65536 * N);
         for (int y = 0; y < roi.height; ++y) {
             const T* r = rowAt(pSrc, srcStep, y);
             for (int x = 0; x < roi.width; ++x)
