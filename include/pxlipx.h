@@ -17,5 +17,6 @@
 #include "pxlipx/border.h"
 #include "pxlipx/synthetic.h"
 #include "pxlipx/statistics.h"
+#include "pxlipx/filtering.h"
 
 #endif

@@ -5,3 +5,4 @@
 #include "exchange/exchange.hpp"
 #include "arithmetic/arithmetic.hpp"
 #include "statistics/statistics.hpp"
+#include "filtering/filtering.hpp"

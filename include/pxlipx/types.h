@@ -158,6 +158,9 @@ typedef int32_t PxlHint;
 /* The histogram record, in a buffer of the size pxliHistogramGetBufferSize gives. */
 typedef struct PxliHistogramSpec PxliHistogramSpec;
 
+/* The general filter's record, in a buffer of the size pxliFilterBorderGetSize gives. */
+typedef struct PxliFilterBorderSpec PxliFilterBorderSpec;
+
 /* The version record that pxliGetLibVersion points at. */
 typedef struct PxlVersionRecord {
     int32_t     versionMajor;

@@ -202,6 +202,29 @@ PxlStatus copyConstBorderArrayInPlace(S* p, int step, Sz srcRoi, Sz dstRoi, int 
     return runBorder<S, L, Rule::Constant, true, true>(p, step, p, step, {plain(srcRoi), plain(dstRoi), top, left}, value);
 }
 
+template <class S, class L>
+void extendBorder(const S* src, int srcStep, PxliSize srcRoi, S* frame, int frameStep, PxliSize frameRoi, int top, int left,
+                  int kind, const S* value)
+{
+    const Geometry g{srcRoi, frameRoi, top, left};
+    if (kind == pxlBorderConstant) makeFrame<S, L, Rule::Constant>(src, srcStep, frame, frameStep, g, value, false);
+    else if (kind == pxlBorderMirror) makeFrame<S, L, Rule::Mirror>(src, srcStep, frame, frameStep, g, value, false);
+    else makeFrame<S, L, Rule::Replicate>(src, srcStep, frame, frameStep, g, value, false);
+}
+
+#define PXL_EXTEND_BORDER(S, L) \
+    template void extendBorder<S, L>(const S*, int, PxliSize, S*, int, PxliSize, int, int, int, const S*);
+PXL_EXTEND_BORDER(uint8_t, C1)
+PXL_EXTEND_BORDER(uint8_t, C3)
+PXL_EXTEND_BORDER(uint8_t, C4)
+PXL_EXTEND_BORDER(uint16_t, C1)
+PXL_EXTEND_BORDER(uint16_t, C3)
+PXL_EXTEND_BORDER(uint16_t, C4)
+PXL_EXTEND_BORDER(uint32_t, C1)
+PXL_EXTEND_BORDER(uint32_t, C3)
+PXL_EXTEND_BORDER(uint32_t, C4)
+#undef PXL_EXTEND_BORDER
+
 }  // namespace pxl::exch
 
 #include "inst/exchange/border.inc"

@@ -43,4 +43,17 @@ constexpr int mirrorIndex(int i, int n)
 }
 constexpr int wrapIndex(int i, int n) { return ((i % n) + n) % n; }
 
+namespace exch {
+
+// The frame of frameRoi around a source region of srcRoi placed `top` rows and `left` pixels in,
+// made by a filter's border kind (pxlBorderReplicate, pxlBorderMirror, or pxlBorderConstant with
+// one sample per channel at `value`) by the same code as the exported border copies, so that the
+// filters that extend strips of their images agree with those copies pixel for pixel. S is the
+// unsigned type of the sample's width; L is C1, C3 or C4.
+template <class S, class L>
+void extendBorder(const S* src, int srcStep, PxliSize srcRoi, S* frame, int frameStep, PxliSize frameRoi, int top, int left,
+                  int kind, const S* value);
+
+}  // namespace exch
+
 }  // namespace pxl

@@ -1,0 +1,62 @@
+/* pxlipx: neighbourhood filters with border handling. */
+#ifndef PXLIPX_FILTERING_H
+#define PXLIPX_FILTERING_H
+
+#include "types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* The general filter: a caller's rectangular kernel of 16s taps (with a divisor) or 32f taps,
+ * correlated with the region: dst(x, y) = sum over rows r and columns k of tap[r][k] times
+ * src(x + k - ax, y + r - ay), with the anchor fixed at ax = (kw - 1) / 2, ay = (kh - 1) / 2.
+ * Pixels outside the image come from the border word: replicated, mirrored or constant (one
+ * sample per channel at pBorderValue), except on the sides whose memory flag says the caller's
+ * buffer holds them. Only the image's rim is copied into the work buffer; the interior is read
+ * in place.
+ *
+ * Order of calls: pxliFilterBorderGetSize gives the record and work-buffer sizes; Init fills the
+ * record (any address: it is used from the next 64-byte boundary); SetMode optionally adds an
+ * offset; then any number of filter calls, each with its own work buffer of the queried size.
+ *
+ * Integer taps with 8u data: products and sum in 32-bit integers, the offset added, the sum divided
+ * by the divisor and rounded by the record's rounding code (0 toward zero, 1 to nearest with ties
+ * to even, 2 to nearest with ties upward), saturated. With 16s data the sum is 64-bit and has no
+ * offset. 32f taps: the sum runs in extended precision; integer data is rounded as above and
+ * saturated, 32f data is stored as it is (NaN and infinities pass through). 16s taps are answered
+ * as 32f taps (the divisor folded into them) for 16u data, and for 16s data with 3 or 4 channels
+ * or a kernel 1 wide, 1 high or (one channel) under 3 wide. Rounding code 2 rounds negative 16s
+ * results to nearest with ties upward as well. Adding pxlFilterModeHint to the rounding code
+ * changes no result. */
+PxlStatus pxliFilterBorderGetSize(PxliSize kernelSize, PxliSize roiSize, PxlDataType dataType, PxlDataType kernelType, int numChannels, int* pSpecSize, int* pBufferSize);
+PxlStatus pxliFilterBorderInit_16s(const Pxl16s* pKernel, PxliSize kernelSize, int divisor, PxlDataType dataType, int numChannels, PxlFilterRound roundMode, PxliFilterBorderSpec* pSpec);
+PxlStatus pxliFilterBorderInit_32f(const Pxl32f* pKernel, PxliSize kernelSize, PxlDataType dataType, int numChannels, PxlFilterRound roundMode, PxliFilterBorderSpec* pSpec);
+/* An offset added to each integer-tap sum before the division (scaled by the divisor's class as
+ * the record keeps it); hint 2 sets the rounding hint bit. Refused for records of 16s data with
+ * 16s taps and for 32f taps of 16s or 32f data when the offset is not 0. */
+PxlStatus pxliFilterBorderSetMode(PxlHint hint, int offset, PxliFilterBorderSpec* pSpec);
+PxlStatus pxliFilterBorder_8u_C1R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_8u_C3R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl8u pBorderValue[3], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_8u_C4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl8u pBorderValue[4], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_16u_C1R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_16u_C3R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl16u pBorderValue[3], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_16u_C4R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl16u pBorderValue[4], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl16s pBorderValue[3], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_16s_C4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl16s pBorderValue[4], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl32f pBorderValue[3], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliFilterBorder_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl32f pBorderValue[4], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+
+/* The older 64f filter without border handling: dst(x, y) = sum of kernel[r][k] times
+ * src(x + k - anchor.x, y + r - anchor.y), summed row by row in 64f; the caller's buffer holds the
+ * source pixels around the region. The work buffer is not used (its size query reports 0). */
+PxlStatus pxliFilterGetBufSize_64f_C1R(PxliSize kernelSize, int roiWidth, int* pBufferSize);
+PxlStatus pxliFilter_64f_C1R(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize dstRoiSize, const Pxl64f* pKernel, PxliSize kernelSize, PxliPoint anchor, Pxl8u* pBuffer);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

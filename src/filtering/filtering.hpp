@@ -1,0 +1,23 @@
+// Declarations of the filtering families' implementations, for the entry table.
+#pragma once
+
+#include "frame/image.hpp"
+
+namespace pxl::filt {
+
+// The general filter with borders.
+PxlStatus filterBorderGetSize(PxliSize kernelSize, PxliSize roiSize, PxlDataType dataType, PxlDataType kernelType, int numChannels,
+                              int* pSpecSize, int* pBufferSize);
+PxlStatus filterBorderInit16s(const Pxl16s* pKernel, PxliSize kernelSize, int divisor, PxlDataType dataType, int numChannels,
+                              PxlFilterRound roundMode, PxliFilterBorderSpec* pSpec);
+PxlStatus filterBorderInit32f(const Pxl32f* pKernel, PxliSize kernelSize, PxlDataType dataType, int numChannels,
+                              PxlFilterRound roundMode, PxliFilterBorderSpec* pSpec);
+PxlStatus filterBorderSetMode(PxlHint hint, int offset, PxliFilterBorderSpec* pSpec);
+template <class T, class L>
+PxlStatus filterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border,
+                       const T* pBorderValue, const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus filterGetBufSize64f(PxliSize kernelSize, int roiWidth, int* pBufferSize);
+PxlStatus filter64f(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize dstRoiSize, const Pxl64f* pKernel,
+                    PxliSize kernelSize, PxliPoint anchor, Pxl8u* pBuffer);
+
+}  // namespace pxl::filt
