@@ -167,6 +167,7 @@ inline double mulAdd(double t, double x, double a)
 }
 
 // acc[j] += the products of one kernel row (taps t in the caller's order) along the samples s.
+// Integer taps and samples both fit 16 bits (8u and 16s data), and their products are widened.
 template <int KW, int N, class A, class S, class Tp>
 inline void addRowFixed(A* acc, const S* s, const Tp* t, int len)
 {
@@ -174,7 +175,7 @@ inline void addRowFixed(A* acc, const S* s, const Tp* t, int len)
         A a = acc[j];
         for (int k = 0; k < KW; ++k) {
             if constexpr (std::is_same_v<A, double>) a = mulAdd(t[k], static_cast<double>(s[j + k * N]), a);
-            else a += static_cast<A>(t[k] * int32_t{s[j + k * N]});  // 16 by 16 bits: no overflow
+            else a += static_cast<A>(int32_t{static_cast<int16_t>(t[k])} * int32_t{static_cast<int16_t>(s[j + k * N])});
         }
         acc[j] = a;
     }
@@ -229,8 +230,16 @@ template <class A, class D, class Sum, class Finish> void chunked(D* out, int ou
 
 // ---- Integer taps.
 
+// The record's divisor, copied out of it so that the finishing loops hold it in registers.
+struct Divisor {
+    int shift;
+    int64_t mask, half, value;
+    double f64;
+    explicit Divisor(const Record& r) : shift(r.shift), mask(r.shiftMask), half(r.half), value(r.divisor), f64(r.divisorF64) {}
+};
+
 // The integer result of a sum v by the divisor's class and the rounding code, saturated to D.
-template <class D, int Class, int Code> inline D finishInt(int64_t v, const Record& r)
+template <class D, int Class, int Code> inline D finishInt(int64_t v, Divisor r)
 {
     constexpr int64_t lo = std::numeric_limits<D>::lowest(), hi = std::numeric_limits<D>::max();
     int64_t q;
@@ -238,15 +247,15 @@ template <class D, int Class, int Code> inline D finishInt(int64_t v, const Reco
         q = v;
     } else if constexpr (Class == kPowerOfTwo) {
         const int s = r.shift;
-        const int64_t mask = r.shiftMask, half = r.half;
+        const int64_t mask = r.mask, half = r.half;
         if constexpr (Code == kTowardZero) q = (v < 0 ? v + mask : v) >> s;
         else if constexpr (Code == kNearestEven) q = (v >> s) + ((((v >> s) & 1) + (v & mask) - 1 + half) >> s);
         else q = (v + half) >> s;
     } else {
         if constexpr (Code == kTowardZero) {
-            q = v / r.divisor;
+            q = v / r.value;
         } else {
-            const double d = static_cast<double>(v) / r.divisorF64;
+            const double d = static_cast<double>(v) / r.f64;
             if (d >= static_cast<double>(hi)) return static_cast<D>(hi);
             if (d <= static_cast<double>(lo)) return static_cast<D>(lo);
             const double t = std::trunc(d), f = d - t;
@@ -261,11 +270,12 @@ template <class D, int Class, int Code> inline D finishInt(int64_t v, const Reco
 template <class D, class Body> void withIntFinish(const Record& r, Body body)
 {
     const int code = r.roundMode & 3;
+    const Divisor d(r);
     auto pick = [&](auto cls) {
         constexpr int C = decltype(cls)::value;
-        if (code == kTowardZero) body([&r](int64_t v) { return finishInt<D, C, kTowardZero>(v, r); });
-        else if (code == kNearestEven) body([&r](int64_t v) { return finishInt<D, C, kNearestEven>(v, r); });
-        else body([&r](int64_t v) { return finishInt<D, C, kNearestAway>(v, r); });
+        if (code == kTowardZero) body([d](int64_t v) { return finishInt<D, C, kTowardZero>(v, d); });
+        else if (code == kNearestEven) body([d](int64_t v) { return finishInt<D, C, kNearestEven>(v, d); });
+        else body([d](int64_t v) { return finishInt<D, C, kNearestAway>(v, d); });
     };
     if (r.divisorClass == kUnit) pick(std::integral_constant<int, kUnit>{});
     else if (r.divisorClass == kPowerOfTwo) pick(std::integral_constant<int, kPowerOfTwo>{});
@@ -401,17 +411,17 @@ void rowsFloat(const Record& r, const T* win, int winStep, T* out, int outStep, 
     auto sum = [&](double* acc, int y, int j0, int len) {
         sums(acc, y, j0, len);
         if constexpr (floatData) {
-            float m = 0;
-            bool nan = false;
+            // On the bits of the magnitudes, whose integer order is the order of the values with
+            // infinity and then NaN above every finite one.
+            uint32_t m = 0;
             for (int i = 0; i < kh; ++i) {
                 const T* s = rowAt(win, winStep, y + i) + j0;
                 for (int j = 0, span = len + (kw - 1) * N; j < span; ++j) {
-                    const float a = std::fabs(s[j]);
+                    const uint32_t a = std::bit_cast<uint32_t>(s[j]) & 0x7FFFFFFFu;
                     m = a > m ? a : m;
-                    nan |= a != a;
                 }
             }
-            chunkMagnitude = nan ? std::numeric_limits<double>::infinity() : m;
+            chunkMagnitude = m >= 0x7F800000u ? std::numeric_limits<double>::infinity() : std::bit_cast<float>(m);
         }
     };
     // The extended sum of one sample's window, in the caller's order of taps, from +0.
