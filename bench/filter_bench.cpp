@@ -1,0 +1,91 @@
+// The general filter on a frame (1920x1080 unless --size says otherwise): 3x3 and 5x5 binomial
+// kernels on 8u (16s taps with a divisor) and on 32f, replicated borders, against OpenCV's filter2D
+// with the same kernel and border, and a memcpy of the bytes read and written.
+#include "bench.hpp"
+
+#include <vector>
+
+#ifdef PXL_BENCH_OPENCV
+#include <opencv2/imgproc.hpp>
+#endif
+
+namespace {
+
+using pxlbench::H;
+using pxlbench::W;
+
+// The binomial kernel of side n (3 or 5) and the sum of its taps.
+std::vector<int> binomial(int n, int& total)
+{
+    const std::vector<int> row = n == 3 ? std::vector<int>{1, 2, 1} : std::vector<int>{1, 4, 6, 4, 1};
+    std::vector<int> k;
+    total = 0;
+    for (int a : row)
+        for (int b : row) {
+            k.push_back(a * b);
+            total += a * b;
+        }
+    return k;
+}
+
+template <class T> void filter(int side, [[maybe_unused]] pxlbench::MatType peerType)
+{
+    const std::string name = "FilterBorder " + std::to_string(side) + "x" + std::to_string(side) + " " +
+                             (std::is_same_v<T, Pxl8u> ? "8u" : "32f") + " C1" + pxlbench::sizeTag();
+    int total = 0;
+    const std::vector<int> taps = binomial(side, total);
+    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, sizeof(T)), d(W, H, sizeof(T));
+        pxlbench::pixelValues<T>(a);
+        const PxliSize roi{W, H}, kernel{side, side};
+        constexpr bool is8u = std::is_same_v<T, Pxl8u>;
+        int specSize = 0, bufferSize = 0;
+        pxliFilterBorderGetSize(kernel, roi, is8u ? pxlDt8u : pxlDt32f, is8u ? pxlDt16s : pxlDt32f, 1, &specSize, &bufferSize);
+        std::vector<unsigned char> spec(static_cast<std::size_t>(specSize)), buffer(static_cast<std::size_t>(bufferSize));
+        auto* record = reinterpret_cast<PxliFilterBorderSpec*>(spec.data());
+        if constexpr (is8u) {
+            const std::vector<Pxl16s> k(taps.begin(), taps.end());
+            pxliFilterBorderInit_16s(k.data(), kernel, total, pxlDt8u, 1, pxlRoundNearestEven, record);
+        } else {
+            std::vector<Pxl32f> k;
+            for (int t : taps) k.push_back(static_cast<float>(t) / static_cast<float>(total));
+            pxliFilterBorderInit_32f(k.data(), kernel, pxlDt32f, 1, 0, record);
+        }
+        for (auto _ : s) {
+            if constexpr (is8u)
+                benchmark::DoNotOptimize(pxliFilterBorder_8u_C1R(a.as<T>(), a.step, d.as<T>(), d.step, roi, pxlBorderReplicate, nullptr,
+                                                                 record, buffer.data()));
+            else
+                benchmark::DoNotOptimize(pxliFilterBorder_32f_C1R(a.as<T>(), a.step, d.as<T>(), d.step, roi, pxlBorderReplicate, nullptr,
+                                                                  record, buffer.data()));
+            benchmark::ClobberMemory();
+        }
+    });
+    const std::size_t bytes = static_cast<std::size_t>(W) * H * sizeof(T);
+    pxlbench::addMemcpy(name, bytes, bytes);
+#ifdef PXL_BENCH_OPENCV
+    pxlbench::add(name, "peer", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, sizeof(T)), d(W, H, sizeof(T));
+        pxlbench::pixelValues<T>(a);
+        cv::Mat ma = a.mat(peerType), md = d.mat(peerType);
+        cv::Mat k(side, side, CV_32F);
+        for (int i = 0; i < side * side; ++i) k.at<float>(i / side, i % side) = static_cast<float>(taps[i]) / static_cast<float>(total);
+        for (auto _ : s) {
+            cv::filter2D(ma, md, -1, k, cv::Point(-1, -1), 0, cv::BORDER_REPLICATE);
+            benchmark::ClobberMemory();
+        }
+    });
+#endif
+}
+
+void filterBenchmarks()
+{
+    for (int side : {3, 5}) {
+        filter<Pxl8u>(side, pxlbench::k8uC1);
+        filter<Pxl32f>(side, pxlbench::k32fC1);
+    }
+}
+
+const pxlbench::Registrar registrar(filterBenchmarks);
+
+}  // namespace
