@@ -324,6 +324,51 @@ void statisticsDemo(Context& ctx)
     pxliFree(spec);
 }
 
+// The general filter: the colour image sharpened (integer taps) and the gray image embossed
+// (the difference across the diagonal around mid-gray), both with replicated borders.
+void filterDemo(Context& ctx)
+{
+    const Image& src = ctx.rgb;
+    const PxliSize roi = src.size(), kernel{3, 3};
+    auto make = [&](PxlDataType taps, int channels, std::vector<unsigned char>& spec, std::vector<unsigned char>& buffer) {
+        int specSize = 0, bufferSize = 0;
+        pxliFilterBorderGetSize(kernel, roi, pxlDt8u, taps, channels, &specSize, &bufferSize);
+        spec.resize(static_cast<std::size_t>(specSize));
+        buffer.resize(static_cast<std::size_t>(bufferSize));
+        return reinterpret_cast<PxliFilterBorderSpec*>(spec.data());
+    };
+    std::vector<unsigned char> sharpSpec, sharpBuffer, embossSpec, embossBuffer;
+    PxliFilterBorderSpec* sharp = make(pxlDt16s, 3, sharpSpec, sharpBuffer);
+    const Pxl16s sharpen[9] = {0, -1, 0, -1, 5, -1, 0, -1, 0};
+    pxliFilterBorderInit_16s(sharpen, kernel, 1, pxlDt8u, 3, pxlRoundNearestEven, sharp);
+    Image sharpened(src.width, src.height, 3);
+    pxliFilterBorder_8u_C3R(src.data, src.step, sharpened.data, sharpened.step, roi, pxlBorderReplicate, nullptr, sharp,
+                            sharpBuffer.data());
+    ctx.save("filter_sharpen", sharpened);
+
+    // Emboss: the difference across the diagonal, lifted to mid-gray by the offset of an integer
+    // kernel whose divisor is 1.
+    PxliFilterBorderSpec* emboss = make(pxlDt16s, 1, embossSpec, embossBuffer);
+    const Pxl16s diagonal[9] = {-1, -1, 0, -1, 0, 1, 0, 1, 1};
+    pxliFilterBorderInit_16s(diagonal, kernel, 1, pxlDt8u, 1, pxlRoundNearestEven, emboss);
+    pxliFilterBorderSetMode(0, 128, emboss);
+    Image embossed(ctx.gray.width, ctx.gray.height, 1);
+    pxliFilterBorder_8u_C1R(ctx.gray.data, ctx.gray.step, embossed.data, embossed.step, roi, pxlBorderReplicate, nullptr, emboss,
+                            embossBuffer.data());
+    ctx.save("filter_emboss", embossed);
+
+    const std::string size = std::to_string(src.width) + "x" + std::to_string(src.height);
+    const double px = static_cast<double>(src.width) * src.height;
+    ctx.time("pxliFilterBorder_8u_C3R (3x3 sharpen)", size, px, [&] {
+        pxliFilterBorder_8u_C3R(src.data, src.step, sharpened.data, sharpened.step, roi, pxlBorderReplicate, nullptr, sharp,
+                                sharpBuffer.data());
+    });
+    ctx.time("pxliFilterBorder_8u_C1R (3x3 emboss)", size, px, [&] {
+        pxliFilterBorder_8u_C1R(ctx.gray.data, ctx.gray.step, embossed.data, embossed.step, roi, pxlBorderReplicate, nullptr, emboss,
+                                embossBuffer.data());
+    });
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -338,6 +383,7 @@ const std::vector<Entry>& entries()
         {"border", borderDemo},
         {"noise and logic", noiseLogicDemo},
         {"statistics", statisticsDemo},
+        {"filters", filterDemo},
     };
     return all;
 }
