@@ -228,6 +228,72 @@ template <class A, class D, class Sum, class Finish> void chunked(D* out, int ou
     }
 }
 
+// The sums of a square mask of side K with its taps in registers: acc[j] = the sum over the window
+// of sample j, row[r] being the window's r-th row. Taps in the caller's order.
+template <int K, int N, class A, class Tp, class S>
+inline void squareSums(A* acc, const Tp* taps, const S* const* row, int len)
+{
+    Tp t[K * K];
+    for (int i = 0; i < K * K; ++i) t[i] = taps[i];
+    const S* w[K];
+    for (int i = 0; i < K; ++i) w[i] = row[i];
+    for (int j = 0; j < len; ++j) {
+        A a = 0;
+        for (int i = 0; i < K; ++i)
+            for (int k = 0; k < K; ++k) {
+                if constexpr (std::is_same_v<A, double>) a = mulAdd(t[i * K + k], w[i][j + k * N], a);
+                else a += static_cast<A>(int32_t{static_cast<int16_t>(t[i * K + k])} * int32_t{static_cast<int16_t>(w[i][j + k * N])});
+            }
+        acc[j] = a;
+    }
+}
+
+// The magnitudes of float samples on their bits, whose integer order is the order of the values
+// with infinity and then NaN above every finite one; as a double, infinite for those two.
+inline uint32_t magnitudeBits(float v) { return std::bit_cast<uint32_t>(v) & 0x7FFFFFFFu; }
+inline double magnitudeOf(uint32_t bits)
+{
+    return bits >= 0x7F800000u ? std::numeric_limits<double>::infinity() : static_cast<double>(std::bit_cast<float>(bits));
+}
+
+// A square mask of side K over samples converted to double once each: the walk goes down one
+// chunk of columns at a time, keeping the window's rows in a ring. finish(acc, out, y, j0, len,
+// magnitude) stores each chunk of sums; magnitude is the largest among the window's samples (for
+// float data; 0 otherwise).
+template <int K, int N, class T, class Finish>
+void squareRing(const double* taps, const T* win, int winStep, T* out, int outStep, int samples, int height, Finish finish)
+{
+    constexpr int kSpan = kChunk + (K - 1) * N;
+    alignas(64) double ring[K][kSpan];
+    alignas(64) double acc[kChunk];
+    uint32_t mag[K] = {};
+    for (int j0 = 0; j0 < samples; j0 += kChunk) {
+        const int len = std::min(kChunk, samples - j0), span = len + (K - 1) * N;
+        auto load = [&](int y) {
+            const T* s = rowAt(win, winStep, y) + j0;
+            double* d = ring[y % K];
+            for (int j = 0; j < span; ++j) d[j] = static_cast<double>(s[j]);
+            if constexpr (std::is_same_v<T, Pxl32f>) {
+                uint32_t m = 0;
+                for (int j = 0; j < span; ++j) m = std::max(m, magnitudeBits(s[j]));
+                mag[y % K] = m;
+            }
+        };
+        for (int y = 0; y < K - 1; ++y) load(y);
+        for (int y = 0; y < height; ++y) {
+            load(y + K - 1);
+            const double* rows[K];
+            uint32_t m = 0;
+            for (int i = 0; i < K; ++i) {
+                rows[i] = ring[(y + i) % K];
+                m = std::max(m, mag[(y + i) % K]);
+            }
+            squareSums<K, N>(acc, taps, rows, len);
+            finish(acc, rowAt(out, outStep, y) + j0, y, j0, len, magnitudeOf(m));
+        }
+    }
+}
+
 // ---- Integer taps.
 
 // The record's divisor, copied out of it so that the finishing loops hold it in registers.
@@ -239,29 +305,29 @@ struct Divisor {
 };
 
 // The integer result of a sum v by the divisor's class and the rounding code, saturated to D.
-template <class D, int Class, int Code> inline D finishInt(int64_t v, Divisor r)
+// V is the sum's type (32 or 64 bits); no step leaves it.
+template <class D, int Class, int Code, class V> inline D finishInt(V v, Divisor r)
 {
-    constexpr int64_t lo = std::numeric_limits<D>::lowest(), hi = std::numeric_limits<D>::max();
-    int64_t q;
+    constexpr V lo = std::numeric_limits<D>::lowest(), hi = std::numeric_limits<D>::max();
+    V q;
     if constexpr (Class == kUnit) {
         q = v;
     } else if constexpr (Class == kPowerOfTwo) {
         const int s = r.shift;
-        const int64_t mask = r.mask, half = r.half;
+        const V mask = static_cast<V>(r.mask), half = static_cast<V>(r.half);
         if constexpr (Code == kTowardZero) q = (v < 0 ? v + mask : v) >> s;
         else if constexpr (Code == kNearestEven) q = (v >> s) + ((((v >> s) & 1) + (v & mask) - 1 + half) >> s);
-        else q = (v + half) >> s;
+        else q = (v >> s) + (((v & mask) + half) >> s);
     } else {
-        if constexpr (Code == kTowardZero) {
-            q = v / r.value;
-        } else {
-            const double d = static_cast<double>(v) / r.f64;
-            if (d >= static_cast<double>(hi)) return static_cast<D>(hi);
-            if (d <= static_cast<double>(lo)) return static_cast<D>(lo);
-            const double t = std::trunc(d), f = d - t;
-            if constexpr (Code == kNearestEven) q = static_cast<int64_t>(roundIntegral<kNearestEven>(d));
-            else q = static_cast<int64_t>(f >= 0.5 ? t + 1 : f < -0.5 ? t - 1 : t);  // ties upward
-        }
+        // The quotient of two integers below 2^53 never rounds across an integer or a half, so its
+        // double is as good as the exact one for every code.
+        const double d = static_cast<double>(v) / r.f64;
+        if (d >= static_cast<double>(hi)) return static_cast<D>(hi);
+        if (d <= static_cast<double>(lo)) return static_cast<D>(lo);
+        const double t = std::trunc(d), f = d - t;
+        if constexpr (Code == kTowardZero) q = static_cast<V>(t);
+        else if constexpr (Code == kNearestEven) q = static_cast<V>(roundIntegral<kNearestEven>(d));
+        else q = static_cast<V>(f >= 0.5 ? t + 1 : f < -0.5 ? t - 1 : t);  // ties upward
     }
     return static_cast<D>(q < lo ? lo : q > hi ? hi : q);
 }
@@ -273,9 +339,9 @@ template <class D, class Body> void withIntFinish(const Record& r, Body body)
     const Divisor d(r);
     auto pick = [&](auto cls) {
         constexpr int C = decltype(cls)::value;
-        if (code == kTowardZero) body([d](int64_t v) { return finishInt<D, C, kTowardZero>(v, d); });
-        else if (code == kNearestEven) body([d](int64_t v) { return finishInt<D, C, kNearestEven>(v, d); });
-        else body([d](int64_t v) { return finishInt<D, C, kNearestAway>(v, d); });
+        if (code == kTowardZero) body([d](auto v) { return finishInt<D, C, kTowardZero>(v, d); });
+        else if (code == kNearestEven) body([d](auto v) { return finishInt<D, C, kNearestEven>(v, d); });
+        else body([d](auto v) { return finishInt<D, C, kNearestAway>(v, d); });
     };
     if (r.divisorClass == kUnit) pick(std::integral_constant<int, kUnit>{});
     else if (r.divisorClass == kPowerOfTwo) pick(std::integral_constant<int, kPowerOfTwo>{});
@@ -303,11 +369,46 @@ struct Offset {
 };
 
 // 8u data, 16s taps: products and sum in 32-bit integers (wrapping as such a sum does).
+// Square masks of side 3 and 5 hold their taps in registers; where no partial sum can leave 16
+// bits, the sums run in 16-bit lanes, twice as many to a register.
+template <int K, int N, class Finish>
+bool square8uInt(const Record& r, const Pxl8u* win, int winStep, Pxl8u* out, int outStep, int width, int height, Finish finish)
+{
+    if (r.kernelWidth != K || r.kernelHeight != K) return false;
+    const Pxl16s* rev = tableOf<const Pxl16s>(&r, r.kernelInt);
+    int32_t taps[K * K];
+    int positive = 0, negative = 0;
+    for (int i = 0; i < K * K; ++i) {
+        taps[i] = rev[K * K - 1 - i];
+        (taps[i] > 0 ? positive : negative) += std::abs(taps[i]);
+    }
+    auto walk = [&](auto zero) {
+        using A = decltype(zero);
+        chunked<A>(out, outStep, width * N, height,
+                   [&](A* acc, int y, int j0, int len) {
+                       const Pxl8u* rows[K];
+                       for (int i = 0; i < K; ++i) rows[i] = rowAt(win, winStep, y + i) + j0;
+                       squareSums<K, N>(acc, taps, rows, len);
+                   },
+                   [&](const A* acc, Pxl8u* o, int, int, int len) {
+                       // The 32-bit sums wrap as the sum of the rule does; the 16-bit ones are exact.
+                       for (int j = 0; j < len; ++j) o[j] = finish(static_cast<int32_t>(acc[j]));
+                   });
+    };
+    if (negative == 0 && positive * 255 <= 65535) walk(uint16_t{});
+    else if ((positive + negative) * 255 <= 32767) walk(int16_t{});
+    else walk(uint32_t{});
+    return true;
+}
+
 template <int N> void rows8uInt(const Record& r, const Pxl8u* win, int winStep, Pxl8u* out, int outStep, int width, int height)
 {
     const auto sum = tapSums<uint32_t, int32_t, N>(r, tableOf<const Pxl16s>(&r, r.kernelInt), win, winStep);
     withIntFinish<Pxl8u>(r, [&](auto finish) {
         if (r.offsetF32 == 0.0f) {
+            if (square8uInt<3, N>(r, win, winStep, out, outStep, width, height, finish) ||
+                square8uInt<5, N>(r, win, winStep, out, outStep, width, height, finish))
+                return;
             chunked<uint32_t>(out, outStep, width * N, height, sum, [&](const uint32_t* acc, Pxl8u* o, int, int, int len) {
                 for (int j = 0; j < len; ++j) o[j] = finish(static_cast<int32_t>(acc[j]));
             });
@@ -355,10 +456,11 @@ template <class D, int Code, class F> inline D finishReal(F v)
     }
 }
 
-template <class T> inline bool sameBits(T a, T b)
+// A sample as a word whose bits differ wherever two samples' bits do.
+template <class T> inline uint32_t wordOf(T v)
 {
-    if constexpr (std::is_same_v<T, Pxl32f>) return std::bit_cast<uint32_t>(a) == std::bit_cast<uint32_t>(b);
-    else return a == b;
+    if constexpr (std::is_same_v<T, Pxl32f>) return std::bit_cast<uint32_t>(v);
+    else return static_cast<uint32_t>(v);
 }
 
 template <class T> constexpr double largestMagnitude()
@@ -405,23 +507,17 @@ void rowsFloat(const Record& r, const T* win, int winStep, T* out, int outStep, 
     const double relative = (n + 3) * 0x1p-52;
 
     const auto sums = tapSums<double, double, N>(r, rev, win, winStep);
-    // For float data, the largest magnitude among the samples of the chunk's windows (infinite
-    // where one is NaN).
+    // For float data, the largest magnitude among the samples of the chunk's windows.
     double chunkMagnitude = 0;
     auto sum = [&](double* acc, int y, int j0, int len) {
         sums(acc, y, j0, len);
         if constexpr (floatData) {
-            // On the bits of the magnitudes, whose integer order is the order of the values with
-            // infinity and then NaN above every finite one.
             uint32_t m = 0;
             for (int i = 0; i < kh; ++i) {
                 const T* s = rowAt(win, winStep, y + i) + j0;
-                for (int j = 0, span = len + (kw - 1) * N; j < span; ++j) {
-                    const uint32_t a = std::bit_cast<uint32_t>(s[j]) & 0x7FFFFFFFu;
-                    m = a > m ? a : m;
-                }
+                for (int j = 0, span = len + (kw - 1) * N; j < span; ++j) m = std::max(m, magnitudeBits(s[j]));
             }
-            chunkMagnitude = m >= 0x7F800000u ? std::numeric_limits<double>::infinity() : std::bit_cast<float>(m);
+            chunkMagnitude = magnitudeOf(m);
         }
     };
     // The extended sum of one sample's window, in the caller's order of taps, from +0.
@@ -434,33 +530,43 @@ void rowsFloat(const Record& r, const T* win, int winStep, T* out, int outStep, 
         }
         return floatData ? s : s + static_cast<long double>(offset);
     };
+    const double fixedBound = floatData ? 0.0 : relative * (tapMagnitude * largestMagnitude<T>() + std::fabs(offset));
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
     const NearestRounding nearest;
     withRoundCode(r.roundMode & 3, [&](auto code) {
         constexpr int Code = decltype(code)::value;
-        if (exact) {
-            chunked<double>(out, outStep, width * N, height, sum, [&](const double* acc, T* o, int, int, int len) {
+        // Stores a chunk of sums, each proved against the extended one or summed again so.
+        auto finish = [&](const double* acc, T* o, int y, int j0, int len, double magnitude) {
+            if (exact) {
                 for (int j = 0; j < len; ++j) o[j] = finishReal<T, Code>(acc[j] + offset);
-            });
-            return;
-        }
-        const double fixedBound = floatData ? 0.0 : relative * (tapMagnitude * largestMagnitude<T>() + std::fabs(offset));
-        chunked<double>(out, outStep, width * N, height, sum, [&](const double* acc, T* o, int y, int j0, int len) {
-            const double bound = floatData ? relative * tapMagnitude * chunkMagnitude : fixedBound;
-            bool undecided = !(bound < std::numeric_limits<double>::infinity());
+                return;
+            }
+            const double bound = floatData ? relative * tapMagnitude * magnitude : fixedBound;
+            uint32_t differ = 0;
             for (int j = 0; j < len; ++j) {
                 const double v = acc[j] + offset;
                 const T a = finishReal<T, Code>(v - bound), b = finishReal<T, Code>(v + bound);
                 o[j] = a;
-                undecided |= !sameBits(a, b);
+                differ |= wordOf(a) ^ wordOf(b);
             }
-            if (undecided)
+            const bool unbounded = !(bound < kInfinity);
+            if (differ || unbounded)
                 for (int j = 0; j < len; ++j) {
                     const double v = acc[j] + offset;
-                    const T a = finishReal<T, Code>(v - bound), b = finishReal<T, Code>(v + bound);
-                    if (!sameBits(a, b) || !(bound < std::numeric_limits<double>::infinity()))
+                    if (unbounded || wordOf(finishReal<T, Code>(v - bound)) != wordOf(finishReal<T, Code>(v + bound)))
                         o[j] = finishReal<T, Code>(extended(y, j0 + j));
                 }
+        };
+        if (kw == kh && (kw == 3 || kw == 5)) {
+            double taps[25];
+            for (int i = 0; i < n; ++i) taps[i] = rev[n - 1 - i];
+            if (kw == 3) squareRing<3, N>(taps, win, winStep, out, outStep, width * N, height, finish);
+            else squareRing<5, N>(taps, win, winStep, out, outStep, width * N, height, finish);
+            return;
+        }
+        chunked<double>(out, outStep, width * N, height, sum, [&](const double* acc, T* o, int y, int j0, int len) {
+            finish(acc, o, y, j0, len, chunkMagnitude);
         });
     });
 }

@@ -198,8 +198,10 @@ template <class T, int N> void runModelCases(int cases, uint64_t seed)
         if (intTaps && dt != pxlDt32f) {
             static const int divisors[] = {1, 1, 2, 4, 16, 3, 9, -2, 7, 1024};
             k.divisor = divisors[rng.uniformInt(0, 9)];
-            const int range = rng.chance(0.2) ? 32767 : 20;
-            for (int i = 0; i < count; ++i) k.itaps.push_back(rng.uniformInt(-range, range));
+            // Wide taps, and narrow ones whose sums of 8u samples fit 16 bits, signed or not.
+            const int range = rng.chance(0.2) ? 32767 : rng.chance(0.5) ? 20 : 7;
+            const bool positive = rng.chance(0.3);
+            for (int i = 0; i < count; ++i) k.itaps.push_back(rng.uniformInt(positive ? 0 : -range, range));
             if (rng.chance(0.1)) k.itaps[0] = -32768;
             std::vector<Pxl16s> taps(k.itaps.begin(), k.itaps.end());
             ASSERT_GE(pxliFilterBorderInit_16s(taps.data(), kern, k.divisor, dt, N, k.mode, spec.get()), pxlStatusOk);
