@@ -49,6 +49,31 @@ PxlStatus pxliFilterBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst
 PxlStatus pxliFilterBorder_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl32f pBorderValue[3], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
 PxlStatus pxliFilterBorder_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl32f pBorderValue[4], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
 
+/* Running sums of a window of maskSize samples along each row (Row) or down each column (Column),
+ * the window starting anchor samples before each output sample (the caller's buffer holds those
+ * around the region), into 32f. The first window of a row or column is summed in 32f in order;
+ * each next one adds the difference of the incoming and outgoing samples, taken in integers.
+ * Checks: null pointers, maskSize below 1 (pxlStatusBadMaskSize), anchor outside 0..maskSize-1
+ * (pxlStatusBadAnchor); an empty region does nothing. */
+PxlStatus pxliSumWindowRow_8u32f_C1R(const Pxl8u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_8u32f_C3R(const Pxl8u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_8u32f_C4R(const Pxl8u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16u32f_C1R(const Pxl16u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16u32f_C3R(const Pxl16u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16u32f_C4R(const Pxl16u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16s32f_C1R(const Pxl16s* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16s32f_C3R(const Pxl16s* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16s32f_C4R(const Pxl16s* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_8u32f_C1R(const Pxl8u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_8u32f_C3R(const Pxl8u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_8u32f_C4R(const Pxl8u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16u32f_C1R(const Pxl16u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16u32f_C3R(const Pxl16u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16u32f_C4R(const Pxl16u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16s32f_C1R(const Pxl16s* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16s32f_C3R(const Pxl16s* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16s32f_C4R(const Pxl16s* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, int maskSize, int anchor);
+
 /* The older 64f filter without border handling: dst(x, y) = sum of kernel[r][k] times
  * src(x + k - anchor.x, y + r - anchor.y), summed row by row in 64f; the caller's buffer holds the
  * source pixels around the region. The work buffer is not used (its size query reports 0). */

@@ -20,4 +20,10 @@ PxlStatus filterGetBufSize64f(PxliSize kernelSize, int roiWidth, int* pBufferSiz
 PxlStatus filter64f(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize dstRoiSize, const Pxl64f* pKernel,
                     PxliSize kernelSize, PxliPoint anchor, Pxl8u* pBuffer);
 
+// Running window sums along rows and columns.
+template <class S, class L>
+PxlStatus sumWindowRow(const S* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roi, int maskSize, int anchor);
+template <class S, class L>
+PxlStatus sumWindowColumn(const S* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roi, int maskSize, int anchor);
+
 }  // namespace pxl::filt
