@@ -166,17 +166,21 @@ inline double mulAdd(double t, double x, double a)
 #endif
 }
 
+// A sum plus a tap times a sample. Integer taps and samples both fit 16 bits (8u and 16s data),
+// and their product is widened to the sum's type, wrapping where that type is narrower.
+template <class A, class Tp, class S> inline A addProduct(A a, Tp t, S x)
+{
+    if constexpr (std::is_same_v<A, double>) return mulAdd(t, static_cast<double>(x), a);
+    else return static_cast<A>(a + static_cast<A>(int32_t{static_cast<int16_t>(t)} * int32_t{static_cast<int16_t>(x)}));
+}
+
 // acc[j] += the products of one kernel row (taps t in the caller's order) along the samples s.
-// Integer taps and samples both fit 16 bits (8u and 16s data), and their products are widened.
 template <int KW, int N, class A, class S, class Tp>
 inline void addRowFixed(A* acc, const S* s, const Tp* t, int len)
 {
     for (int j = 0; j < len; ++j) {
         A a = acc[j];
-        for (int k = 0; k < KW; ++k) {
-            if constexpr (std::is_same_v<A, double>) a = mulAdd(t[k], static_cast<double>(s[j + k * N]), a);
-            else a += static_cast<A>(int32_t{static_cast<int16_t>(t[k])} * int32_t{static_cast<int16_t>(s[j + k * N])});
-        }
+        for (int k = 0; k < KW; ++k) a = addProduct(a, t[k], s[j + k * N]);
         acc[j] = a;
     }
 }
@@ -240,10 +244,7 @@ inline void squareSums(A* acc, const Tp* taps, const S* const* row, int len)
     for (int j = 0; j < len; ++j) {
         A a = 0;
         for (int i = 0; i < K; ++i)
-            for (int k = 0; k < K; ++k) {
-                if constexpr (std::is_same_v<A, double>) a = mulAdd(t[i * K + k], w[i][j + k * N], a);
-                else a += static_cast<A>(int32_t{static_cast<int16_t>(t[i * K + k])} * int32_t{static_cast<int16_t>(w[i][j + k * N])});
-            }
+            for (int k = 0; k < K; ++k) a = addProduct(a, t[i * K + k], w[i][j + k * N]);
         acc[j] = a;
     }
 }
@@ -319,7 +320,7 @@ template <class D, int Class, int Code, class V> inline D finishInt(V v, Divisor
         else if constexpr (Code == kNearestEven) q = (v >> s) + ((((v >> s) & 1) + (v & mask) - 1 + half) >> s);
         else q = (v >> s) + (((v & mask) + half) >> s);
     } else {
-        // The quotient of two integers below 2^53 never rounds across an integer or a half, so its
+        // The quotient of integers below 2^51 never rounds across an integer or a half, so its
         // double is as good as the exact one for every code.
         const double d = static_cast<double>(v) / r.f64;
         if (d >= static_cast<double>(hi)) return static_cast<D>(hi);

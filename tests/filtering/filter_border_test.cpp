@@ -247,30 +247,18 @@ template <class T, int N> void runModelCases(int cases, uint64_t seed)
     }
 }
 
-TEST(FilterBorder, MatchesTheModel8u)
+// Each layout of a type: `single` cases of C1, `multi` of C3 and of C4.
+template <class T> void everyLayout(int single, int multi, uint64_t seed)
 {
-    runModelCases<Pxl8u, 1>(400, 11);
-    runModelCases<Pxl8u, 3>(150, 12);
-    runModelCases<Pxl8u, 4>(150, 13);
+    runModelCases<T, 1>(single, seed);
+    runModelCases<T, 3>(multi, seed + 1);
+    runModelCases<T, 4>(multi, seed + 2);
 }
-TEST(FilterBorder, MatchesTheModel16u)
-{
-    runModelCases<Pxl16u, 1>(200, 21);
-    runModelCases<Pxl16u, 3>(100, 22);
-    runModelCases<Pxl16u, 4>(100, 23);
-}
-TEST(FilterBorder, MatchesTheModel16s)
-{
-    runModelCases<Pxl16s, 1>(300, 31);
-    runModelCases<Pxl16s, 3>(100, 32);
-    runModelCases<Pxl16s, 4>(100, 33);
-}
-TEST(FilterBorder, MatchesTheModel32f)
-{
-    runModelCases<Pxl32f, 1>(300, 41);
-    runModelCases<Pxl32f, 3>(100, 42);
-    runModelCases<Pxl32f, 4>(100, 43);
-}
+
+TEST(FilterBorder, MatchesTheModel8u) { everyLayout<Pxl8u>(400, 150, 11); }
+TEST(FilterBorder, MatchesTheModel16u) { everyLayout<Pxl16u>(200, 100, 21); }
+TEST(FilterBorder, MatchesTheModel16s) { everyLayout<Pxl16s>(300, 100, 31); }
+TEST(FilterBorder, MatchesTheModel32f) { everyLayout<Pxl32f>(300, 100, 41); }
 
 // Where the double sums cannot decide: exact ties of the rounding and of float results, zero sums
 // from cancelling taps over flat and over large values.
