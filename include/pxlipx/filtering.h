@@ -49,6 +49,28 @@ PxlStatus pxliFilterBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst
 PxlStatus pxliFilterBorder_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl32f pBorderValue[3], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
 PxlStatus pxliFilterBorder_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliBorderMode border, const Pxl32f pBorderValue[4], const PxliFilterBorderSpec* pSpec, Pxl8u* pBuffer);
 
+/* The box filter: each pixel replaced by the mean of the maskSize neighbourhood around it (anchor
+ * at ((kw - 1) / 2, (kh - 1) / 2)), rounded half up (16s: halves away from zero), with borders as
+ * for the general filter (one sample per channel at pBorderValue for the constant kind). pSrc equal
+ * to pDst filters in place (the image's step is dstStep), with the same result. AC4 forms leave the
+ * fourth sample as it was. The sums run in 32f as the column sums plus the difference of the
+ * incoming and outgoing rows, and along each row; they are exact below 2^24. The work buffer holds
+ * the image's rim and a few rows, never the image, unless the mask is not smaller than the region.
+ */
+PxlStatus pxliFilterBoxBorderGetBufferSize(PxliSize roiSize, PxliSize maskSize, PxlDataType dataType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterBoxBorder_8u_C1R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl8u* pBorderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_8u_C3R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl8u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_8u_C4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl8u pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_8u_AC4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl8u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_16u_C1R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16u* pBorderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_16u_C3R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_16u_C4R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16u pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_16u_AC4R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s* pBorderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_16s_C4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_16s_AC4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+
 /* Running sums of a window of maskSize samples along each row (Row) or down each column (Column),
  * the window starting anchor samples before each output sample (the caller's buffer holds those
  * around the region), into 32f. The first window of a row or column is summed in 32f in order;

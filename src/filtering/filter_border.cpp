@@ -579,8 +579,9 @@ void filterWithRecord(const Record& r, const T* pSrc, int srcStep, T* pDst, int 
 {
     constexpr int N = L::mem;
     auto run = [&](auto rows) {
+        Pxl8u* strips = reinterpret_cast<Pxl8u*>((reinterpret_cast<uintptr_t>(pBuffer) + 31) & ~uintptr_t{31});
         filterStrips<T, L>(pSrc, srcStep, pDst, dstStep, roi, centredWindow({r.kernelWidth, r.kernelHeight}), border, pBorderValue,
-                           pBuffer, [&](const T* win, int winStep, T* out, int outStep, int width, int height) {
+                           strips, strips, [&](const T* win, int winStep, T* out, int outStep, int width, int height) {
                                rows(r, win, winStep, out, outStep, width, height);
                            });
     };

@@ -20,6 +20,12 @@ PxlStatus filterGetBufSize64f(PxliSize kernelSize, int roiWidth, int* pBufferSiz
 PxlStatus filter64f(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize dstRoiSize, const Pxl64f* pKernel,
                     PxliSize kernelSize, PxliPoint anchor, Pxl8u* pBuffer);
 
+// The box filter.
+PxlStatus filterBoxBorderGetBufferSize(PxliSize roiSize, PxliSize maskSize, PxlDataType dataType, int numChannels, int* pBufferSize);
+template <class T, class L>
+PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border,
+                          const T* pBorderValue, Pxl8u* pBuffer);
+
 // Running window sums along rows and columns.
 template <class S, class L>
 PxlStatus sumWindowRow(const S* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roi, int maskSize, int anchor);

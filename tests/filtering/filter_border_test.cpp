@@ -2,6 +2,7 @@
 // the border kind (reading the caller's memory on flagged sides), correlated with the kernel in the
 // caller's order, and finished by the divisor's class and the rounding code; sums of float taps in
 // extended precision.
+#include "extension_model.hpp"
 #include "pxltest.hpp"
 
 #include <cmath>
@@ -104,26 +105,7 @@ template <class T, int N>
 GuardedImage<T> model(const GuardedImage<T>& img, PxliSize roi, const Kernel& k, int border, const T* value)
 {
     const int W = roi.width, H = roi.height, ax = (k.kw - 1) / 2, ay = (k.kh - 1) / 2;
-    const int kind = border & 15;
-    const bool fl = border & 0x40, fr = border & 0x80, ft = border & 0x10, fb = border & 0x20;
-    // The part of the caller's memory that counts as image, and the rule beyond it.
-    const int x0 = fl ? -ax : 0, x1 = fr ? W + k.kw - 1 - ax : W, y0 = ft ? -ay : 0, y1 = fb ? H + k.kh - 1 - ay : H;
-    auto fold = [](int i, int lo, int hi, int rule) {  // index into [lo, hi), or -1 for the constant
-        if (i >= lo && i < hi) return i;
-        if (rule == 6) return -1 << 30;
-        const int n = hi - lo;
-        int r = i - lo;
-        if (rule == 1) return r < 0 ? lo : hi - 1;
-        if (n == 1) return lo;
-        const int p = 2 * n - 2;
-        r = ((r % p) + p) % p;
-        return lo + (r < n ? r : p - r);
-    };
-    auto sample = [&](int x, int y, int c) -> T {
-        const int fx = fold(x, x0, x1, kind), fy = fold(y, y0, y1, kind);
-        if (fx < -(1 << 29) || fy < -(1 << 29)) return value[c];
-        return img.at(kMargin + fx, kMargin + fy, c);
-    };
+    const filtmodel::Extension<T> sample{img, kMargin, roi, k.kw, k.kh, border, value};
     GuardedImage<T> want(W, H, N);
     for (int y = 0; y < H; ++y)
         for (int x = 0; x < W; ++x)

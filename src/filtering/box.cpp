@@ -1,0 +1,236 @@
+// The box filter of integer samples: the mean of the mask around each pixel, with borders, in
+// time that does not grow with the mask.
+//
+// The rule keeps a 32f running sum per column of the window (plus the difference of the row coming
+// in and the row going out, taken in integers) and a 32f running sum along each row. While no sum
+// can reach 2^24 every one of those is an exact integer, so the sums are taken in 32-bit integers
+// in whatever order is fastest, with the same results; beyond that (16u with masks over 256
+// samples, say) the rule's own order of 32f additions runs, piece by piece.
+#include "filtering/filtering.hpp"
+#include "filtering/strips.hpp"
+
+#include "exchange/border.hpp"
+#include "frame/bind.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+namespace pxl::filt {
+
+namespace {
+
+// The four areas of the work buffer, in bytes: the strips (each with a room of its own, for
+// filtering in place), the column sums, the row slots (or the whole extended region when the mask
+// is not smaller than it), one word per slot.
+struct BoxAreas {
+    int64_t strips, columns, slots, words;
+    int64_t total() const { return strips + columns + slots + words; }
+};
+
+BoxAreas boxAreas(PxliSize roi, PxliSize mask, int channels, int sampleBytes)
+{
+    const int64_t W = roi.width, H = roi.height, kw = mask.width, kh = mask.height, c = channels;
+    const int64_t ax = (kw - 1) >> 1, ay = (kh - 1) >> 1, rx = kw - ax - 1, ry = kh - ay - 1;
+    const int64_t A = (W + kw - 1) * (kh + ry - 1), B = (H + kh - 1) * (kw + rx - 1);
+    const int64_t A2 = kh == 2 ? A + W + kw - 2 : A, B2 = kw == 2 ? B + H + kh - 2 : B;
+    const int64_t S = A + B + A2 + B2;
+    BoxAreas a;
+    a.strips = std::max(S * 4 * c, S);
+    a.columns = (W + kw + 3) * (c == 1 ? 4 : 16);
+    a.slots = W * c * (ay + 1) * sampleBytes + 64;
+    if (!(kw < W - ax - rx && kh < H - ay - ry)) a.slots = std::max(a.slots, (W + kw - 1) * (H + kh - 1) * c * sampleBytes);
+    a.words = 4 * (ay + 1);
+    return a;
+}
+
+// The mean of a sum s of kw * kh samples: inv * s rounded half up, halves away from zero for 16s.
+template <class T> inline T boxMean(float s, float inv)
+{
+    if constexpr (std::is_signed_v<T>) return static_cast<T>(static_cast<int32_t>(s >= 0 ? inv * s + 0.5f : inv * s - 0.5f));
+    else return static_cast<T>(static_cast<int32_t>(inv * s + 0.5f));
+}
+
+// Horizontal window sums of one channel's column sums, exact: out(x) = col[x] + ... + col[x+kw-1].
+template <int KW> inline void windowSums(const int32_t* col, int32_t* sums, int width)
+{
+    for (int x = 0; x < width; ++x) {
+        int32_t s = 0;
+        for (int k = 0; k < KW; ++k) s += col[x + k];
+        sums[x] = s;
+    }
+}
+inline void windowSumsAny(const int32_t* col, int32_t* sums, int width, int kw)
+{
+    switch (kw) {
+    case 1: windowSums<1>(col, sums, width); return;
+    case 2: windowSums<2>(col, sums, width); return;
+    case 3: windowSums<3>(col, sums, width); return;
+    case 4: windowSums<4>(col, sums, width); return;
+    case 5: windowSums<5>(col, sums, width); return;
+    case 6: windowSums<6>(col, sums, width); return;
+    case 7: windowSums<7>(col, sums, width); return;
+    default: {
+        // The running sum, one addition of a precomputed difference per pixel.
+        int32_t s = 0;
+        for (int k = 0; k < kw - 1; ++k) s += col[k];
+        for (int x = 0; x < width; ++x) {
+            s += col[x + kw - 1];
+            sums[x] = s;
+            s -= col[x];
+        }
+    }
+    }
+}
+
+// One piece, exact: emit(y) gives where output row y goes; T's samples are N apart in memory and
+// the first P of each pixel are filtered. `col` holds P planes of (width + kw - 1) sums.
+template <class T, int N, int P, class Emit>
+void boxExact(const T* win, int winStep, int width, int height, int kw, int kh, float inv, int32_t* col, Emit emit)
+{
+    constexpr int kChunk = 256;
+    const int span = width + kw - 1;
+    int32_t sums[kChunk];
+    std::fill_n(col, std::ptrdiff_t{P} * span, 0);
+    for (int i = 0; i < kh; ++i) {
+        const T* row = rowAt(win, winStep, i);
+        for (int c = 0; c < P; ++c)
+            for (int x = 0; x < span; ++x) col[c * span + x] += row[x * N + c];
+    }
+    for (int y = 0; y < height; ++y) {
+        if (y > 0) {
+            const T* in = rowAt(win, winStep, y + kh - 1);
+            const T* out = rowAt(win, winStep, y - 1);
+            for (int c = 0; c < P; ++c)
+                for (int x = 0; x < span; ++x) col[c * span + x] += int32_t{in[x * N + c]} - int32_t{out[x * N + c]};
+        }
+        T* o = emit(y);
+        for (int c = 0; c < P; ++c)
+            for (int x0 = 0; x0 < width; x0 += kChunk) {
+                const int len = std::min(kChunk, width - x0);
+                windowSumsAny(col + c * span + x0, sums, len, kw);
+                T* oc = o + std::ptrdiff_t{N} * x0 + c;
+                for (int x = 0; x < len; ++x) oc[x * N] = boxMean<T>(static_cast<float>(sums[x]), inv);
+            }
+    }
+}
+
+// One piece by the rule's own order of 32f additions, for sums that may pass 2^24.
+template <class T, int N, int P, class Emit>
+void boxInOrder(const T* win, int winStep, int width, int height, int kw, int kh, float inv, float* col, Emit emit)
+{
+    const int span = width + kw - 1;
+    std::fill_n(col, std::ptrdiff_t{P} * span, 0.0f);
+    for (int i = 0; i < kh; ++i) {
+        const T* row = rowAt(win, winStep, i);
+        for (int c = 0; c < P; ++c)
+            for (int x = 0; x < span; ++x) col[c * span + x] += static_cast<float>(row[x * N + c]);
+    }
+    for (int y = 0; y < height; ++y) {
+        if (y > 0) {
+            const T* in = rowAt(win, winStep, y + kh - 1);
+            const T* out = rowAt(win, winStep, y - 1);
+            for (int c = 0; c < P; ++c)
+                for (int x = 0; x < span; ++x) col[c * span + x] += static_cast<float>(int32_t{in[x * N + c]} - int32_t{out[x * N + c]});
+        }
+        T* o = emit(y);
+        for (int c = 0; c < P; ++c) {
+            const float* cc = col + c * span;
+            float s = 0;
+            for (int k = 0; k < kw - 1; ++k) s += cc[k];
+            for (int x = 0; x < width; ++x) {
+                s += cc[x + kw - 1];
+                o[x * N + c] = boxMean<T>(s, inv);
+                s -= cc[x];
+            }
+        }
+    }
+}
+
+}  // namespace
+
+PxlStatus filterBoxBorderGetBufferSize(PxliSize roi, PxliSize mask, PxlDataType dataType, int numChannels, int* pBufferSize)
+{
+    // Checks: the result pointer, the region, the mask, the type, the channels, a size beyond 32 bits.
+    if (!pBufferSize) return pxlStatusNullPointer;
+    if (badSize(roi)) return pxlStatusBadSize;
+    if (badSize(mask)) return pxlStatusBadMaskSize;
+    if (dataType != pxlDt8u && dataType != pxlDt16u && dataType != pxlDt16s && dataType != pxlDt32f) return pxlStatusBadDataType;
+    if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pxlStatusBadChannelCount;
+    const int64_t total = boxAreas(roi, mask, numChannels, dataType == pxlDt8u ? 1 : dataType == pxlDt32f ? 4 : 2).total();
+    if (total > INT32_MAX) return pxlStatusSizeOverflow;
+    *pBufferSize = static_cast<int>(total);
+    return pxlStatusOk;
+}
+
+template <class T, class L>
+PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, PxliSize mask, PxliBorderMode border,
+                          const T* pBorderValue, Pxl8u* pBuffer)
+{
+    // Checks: pointers; steps; width, then height; the mask; a word above 255; the constant kind's
+    // value; the kind.
+    if (!pSrc || !pDst || !pBuffer) return pxlStatusNullPointer;
+    if (srcStep < 1 || dstStep < 1) return pxlStatusBadStep;
+    if (roi.width < 1 || roi.height < 1) return pxlStatusBadSize;
+    if (badSize(mask)) return pxlStatusBadMaskSize;
+    if (static_cast<uint32_t>(border) > 255) return pxlStatusBadBorder;
+    if ((border & 15) == pxlBorderConstant && !pBorderValue) return pxlStatusNullPointer;
+    if (checkBorderWord(border, kFilterBorderKinds) != pxlStatusOk) return pxlStatusBadBorder;
+
+    constexpr int N = L::mem, P = L::proc;
+    const int kw = mask.width, kh = mask.height;
+    const float inv = 1.0f / static_cast<float>(kw * kh);
+    const Window w = centredWindow(mask);
+    const BoxAreas areas = boxAreas(roi, mask, N, static_cast<int>(sizeof(T)));
+    Pxl8u* base = reinterpret_cast<Pxl8u*>((reinterpret_cast<uintptr_t>(pBuffer) + 3) & ~uintptr_t{3});
+    Pxl8u* strips = base;
+    auto* columns = reinterpret_cast<int32_t*>(base + areas.strips);
+    Pxl8u* slots = base + areas.strips + areas.columns;
+
+    constexpr double largest = std::max(-static_cast<double>(std::numeric_limits<T>::lowest()), static_cast<double>(std::numeric_limits<T>::max()));
+    const bool exact = largest * kw * kh < 0x1p24;
+    // The kernel of one piece, writing output row y where emit(y) says.
+    auto piece = [&](const T* win, int winStep, int width, int height, auto emit) {
+        if (exact) boxExact<T, N, P>(win, winStep, width, height, kw, kh, inv, columns, emit);
+        else boxInOrder<T, N, P>(win, winStep, width, height, kw, kh, inv, reinterpret_cast<float*>(columns), emit);
+    };
+    auto rows = [&](const T* win, int winStep, T* out, int outStep, int width, int height) {
+        piece(win, winStep, width, height, [&](int y) { return rowAt(out, outStep, y); });
+    };
+    // Frames carry whole pixels; the fourth sample of AC4 is copied along and never written.
+    using Frames = std::conditional_t<L::hasAlpha, C4, L>;
+    if (pSrc != pDst) {
+        filterStrips<T, Frames>(pSrc, srcStep, pDst, dstStep, roi, w, border, pBorderValue, strips, slots, rows);
+        return pxlStatusOk;
+    }
+    // In place: each output row waits in one of ay + 1 slots until no later row reads the image row
+    // it replaces.
+    const int count = w.top + 1;
+    auto inPlace = [&](const T* win, int winStep, int x0, int y0, int width, int height) {
+        const int bytes = width * N * static_cast<int>(sizeof(T));
+        auto slot = [&](int y) { return reinterpret_cast<T*>(slots + std::ptrdiff_t{y % count} * bytes); };
+        auto flush = [&](int y) {
+            T* to = rowAt(pDst, dstStep, y0 + y) + std::ptrdiff_t{N} * x0;
+            const T* from = slot(y);
+            if constexpr (N == P) std::memcpy(to, from, static_cast<std::size_t>(bytes));
+            else
+                for (int x = 0; x < width; ++x)
+                    for (int c = 0; c < P; ++c) to[x * N + c] = from[x * N + c];
+        };
+        piece(win, winStep, width, height, [&](int y) {
+            if (y >= count) flush(y - count);
+            return slot(y);
+        });
+        for (int y = std::max(0, height - count); y < height; ++y) flush(y);
+    };
+    filterStripsInPlace<T, Frames>(pDst, dstStep, roi, w, border, pBorderValue, strips, slots, rows, inPlace);
+    return pxlStatusOk;
+}
+
+}  // namespace pxl::filt
+
+#include "inst/filtering/box.inc"

@@ -1,0 +1,214 @@
+// The box filter against the mean of its rule: the exact sum of the extended neighbourhood, times
+// 1 / (kw * kh) in float, rounded half up (16s: halves away from zero); in place against not.
+#include "extension_model.hpp"
+#include "pxltest.hpp"
+
+#include <vector>
+
+namespace {
+
+using pxltest::GuardedBuffer;
+using pxltest::GuardedImage;
+using pxltest::Rng;
+
+constexpr int kMargin = 10;
+
+template <class T, int N, bool Alpha>
+PxlStatus callBox(const T* s, int ss, T* d, int ds, PxliSize roi, PxliSize mask, int border, const T* v, Pxl8u* buf)
+{
+#define PXL_BOX(t, ct)                                                                                            \
+    if constexpr (std::is_same_v<T, ct>) {                                                                        \
+        if constexpr (Alpha) return pxliFilterBoxBorder_##t##_AC4R(s, ss, d, ds, roi, mask, border, v, buf);      \
+        else if constexpr (N == 1) return pxliFilterBoxBorder_##t##_C1R(s, ss, d, ds, roi, mask, border, v, buf); \
+        else if constexpr (N == 3) return pxliFilterBoxBorder_##t##_C3R(s, ss, d, ds, roi, mask, border, v, buf); \
+        else return pxliFilterBoxBorder_##t##_C4R(s, ss, d, ds, roi, mask, border, v, buf);                       \
+    }
+    PXL_BOX(8u, Pxl8u)
+    PXL_BOX(16u, Pxl16u)
+    PXL_BOX(16s, Pxl16s)
+#undef PXL_BOX
+}
+
+template <class T> PxlDataType typeOf()
+{
+    return std::is_same_v<T, Pxl8u> ? pxlDt8u : std::is_same_v<T, Pxl16u> ? pxlDt16u : pxlDt16s;
+}
+
+// The mean of an exact sum by the rule.
+template <class T> T mean(int64_t sum, PxliSize mask)
+{
+    const float inv = 1.0f / static_cast<float>(mask.width * mask.height), v = inv * static_cast<float>(sum);
+    return static_cast<T>(static_cast<int32_t>(sum >= 0 ? v + 0.5f : v - 0.5f));
+}
+
+// Random regions, masks, kinds and flags, out of place and in place; N samples to a pixel, the
+// last left alone where Alpha.
+template <class T, int N, bool Alpha> void boxCases(int cases, uint64_t seed, int largestSample)
+{
+    static_assert(!Alpha || N == 4, "AC4 pixels have four samples");
+    constexpr int P = Alpha ? 3 : N;
+    Rng rng(seed);
+    const PxliSize masks[] = {{1, 1}, {1, 3}, {3, 1}, {2, 2}, {2, 3}, {3, 3}, {5, 5}, {4, 7}, {9, 2}, {15, 15}, {17, 17}};
+    const PxliSize rois[] = {{1, 1}, {2, 3}, {5, 1}, {4, 4}, {9, 7}, {23, 11}, {300 / N, 4}, {40, 20}};
+    const int kinds[] = {pxlBorderReplicate, pxlBorderMirror, pxlBorderConstant};
+    for (int n = 0; n < cases; ++n) {
+        const PxliSize mask = masks[rng.uniformInt(0, 10)], roi = rois[rng.uniformInt(0, 7)];
+        const int border = rng.chance(0.05) ? 0xF0 : kinds[rng.uniformInt(0, 2)] | rng.uniformInt(0, 15) << 4;
+        if (mask.width > 2 * kMargin || mask.height > 2 * kMargin) continue;
+        GuardedImage<T> img(roi.width + 2 * kMargin, roi.height + 2 * kMargin, N);
+        for (int y = 0; y < img.height(); ++y)
+            for (int i = 0; i < img.samplesPerRow(); ++i)
+                img.row(y)[i] = largestSample ? static_cast<T>(rng.uniformInt(0, largestSample)) : rng.sample<T>(0.3);
+        T value[4];
+        for (T& v : value) v = rng.sample<T>(0.5);
+        int size = 0;
+        ASSERT_EQ(pxliFilterBoxBorderGetBufferSize(roi, mask, typeOf<T>(), N, &size), pxlStatusOk);
+        GuardedBuffer work(size, 1, 0, 64, 1);
+
+        GuardedImage<T> dst(roi.width, roi.height, N);
+        dst.fillRandom(rng);
+        const GuardedImage<T> before = dst;
+        const T* src = &img.at(kMargin, kMargin);
+        ASSERT_EQ((callBox<T, N, Alpha>(src, img.step(), dst.data(), dst.step(), roi, mask, border, value, work.base())), pxlStatusOk);
+        const filtmodel::Extension<T> ext{img, kMargin, roi, mask.width, mask.height, border, value};
+        const int ax = (mask.width - 1) / 2, ay = (mask.height - 1) / 2;
+        auto want = [&](int x, int y, int c) {
+            if (c >= P) return before.at(x, y, c);
+            int64_t s = 0;
+            for (int i = 0; i < mask.height; ++i)
+                for (int k = 0; k < mask.width; ++k) s += ext(x + k - ax, y + i - ay, c);
+            return mean<T>(s, mask);
+        };
+        const std::string what = std::string(pxltest::token<T>()) + (Alpha ? " AC4" : " C" + std::to_string(N)) + " mask " +
+                                 std::to_string(mask.width) + "x" + std::to_string(mask.height) + " roi " + std::to_string(roi.width) +
+                                 "x" + std::to_string(roi.height) + " border " + std::to_string(border);
+        ASSERT_TRUE(work.guardsIntact()) << what << ": work buffer overrun";
+        ASSERT_TRUE(pxltest::matchesEach(dst, want)) << what;
+
+        // In place, on a copy of the whole image: the region as out of place, the rest untouched.
+        GuardedImage<T> copy = img;
+        for (int y = 0; y < roi.height; ++y)
+            for (int x = 0; x < roi.width; ++x)
+                for (int c = P; c < N; ++c) copy.at(kMargin + x, kMargin + y, c) = before.at(x, y, c);
+        GuardedBuffer work2(size, 1, 0, 64, 2);
+        T* region = &copy.at(kMargin, kMargin);
+        ASSERT_EQ((callBox<T, N, Alpha>(region, copy.step(), region, copy.step(), roi, mask, border, value, work2.base())), pxlStatusOk);
+        ASSERT_TRUE(work2.guardsIntact()) << "work buffer overrun in place";
+        for (int y = 0; y < copy.height(); ++y)
+            for (int x = 0; x < copy.width(); ++x) {
+                const bool inside = x >= kMargin && x < kMargin + roi.width && y >= kMargin && y < kMargin + roi.height;
+                for (int c = 0; c < N; ++c) {
+                    const T got = copy.at(x, y, c);
+                    const T expect = inside ? dst.at(x - kMargin, y - kMargin, c) : img.at(x, y, c);
+                    ASSERT_EQ(got, expect) << what << " in place at (" << x - kMargin << ", " << y - kMargin << ") channel " << c;
+                }
+            }
+    }
+}
+
+TEST(FilterBoxBorder, MeansOfEveryTypeAndLayout)
+{
+    boxCases<Pxl8u, 1, false>(300, 1, 0);
+    boxCases<Pxl8u, 3, false>(120, 2, 0);
+    boxCases<Pxl8u, 4, false>(80, 3, 0);
+    boxCases<Pxl8u, 4, true>(80, 4, 0);
+    boxCases<Pxl16u, 1, false>(150, 5, 0);
+    boxCases<Pxl16u, 4, true>(80, 6, 0);
+    boxCases<Pxl16s, 1, false>(200, 7, 0);
+    boxCases<Pxl16s, 4, false>(80, 8, 0);
+}
+
+// Masks whose sums of the type's largest samples could pass 2^24 take the rule's order of 32f
+// sums; with samples that keep every sum small, they must still give the exact means.
+TEST(FilterBoxBorder, LargeMasksOfSixteenBitSamples)
+{
+    boxCases<Pxl16u, 1, false>(150, 9, 1000);
+    boxCases<Pxl16s, 3, false>(80, 10, 300);
+}
+
+TEST(FilterBoxBorder, ExactCases)
+{
+    // 16s means of -0.5 round away from zero, 8u means of 0.5 up.
+    GuardedImage<Pxl16s> s16(2, 1, 1), d16(2, 1, 1);
+    s16.at(0, 0) = 0;
+    s16.at(1, 0) = -1;
+    int size = 0;
+    ASSERT_EQ(pxliFilterBoxBorderGetBufferSize({2, 1}, {2, 1}, pxlDt16s, 1, &size), pxlStatusOk);
+    std::vector<Pxl8u> work(static_cast<std::size_t>(size));
+    ASSERT_EQ(pxliFilterBoxBorder_16s_C1R(s16.data(), s16.step(), d16.data(), d16.step(), {2, 1}, {2, 1}, pxlBorderReplicate, nullptr,
+                                          work.data()),
+              pxlStatusOk);
+    EXPECT_EQ(d16.at(0, 0), -1);
+    EXPECT_EQ(d16.at(1, 0), -1);
+    GuardedImage<Pxl8u> s8(2, 1, 1), d8(2, 1, 1);
+    s8.at(0, 0) = 0;
+    s8.at(1, 0) = 1;
+    ASSERT_EQ(pxliFilterBoxBorderGetBufferSize({2, 1}, {2, 1}, pxlDt8u, 1, &size), pxlStatusOk);
+    work.resize(static_cast<std::size_t>(size));
+    ASSERT_EQ(pxliFilterBoxBorder_8u_C1R(s8.data(), s8.step(), d8.data(), d8.step(), {2, 1}, {2, 1}, pxlBorderReplicate, nullptr,
+                                         work.data()),
+              pxlStatusOk);
+    EXPECT_EQ(d8.at(0, 0), 1);
+    EXPECT_EQ(d8.at(1, 0), 1);
+}
+
+// Sizes from the rule, worked by hand.
+TEST(FilterBoxBorder, BufferSizes)
+{
+    int size = -1;
+    // 3x3 on 10x8 8u C1: A = 12 * 3, B = 10 * 3, S = 132; strips 528, columns 64, slots 10 * 2 + 64, words 8.
+    ASSERT_EQ(pxliFilterBoxBorderGetBufferSize({10, 8}, {3, 3}, pxlDt8u, 1, &size), pxlStatusOk);
+    EXPECT_EQ(size, 528 + 64 + 84 + 8);
+    // 2x2 on 3x4 16s C3: A = 4 * 2 = 8, A2 = 8 + 3, B = 5 * 2 = 10, B2 = 10 + 4; S = 43; strips 516,
+    // columns 8 * 16, and the mask reaches past the centre, so the slots hold the extended region:
+    // 4 * 5 * 3 * 2 = 120 (not 3 * 3 * 2 + 64).
+    ASSERT_EQ(pxliFilterBoxBorderGetBufferSize({3, 4}, {2, 2}, pxlDt16s, 3, &size), pxlStatusOk);
+    EXPECT_EQ(size, 516 + 128 + 120 + 4);
+    EXPECT_EQ(pxliFilterBoxBorderGetBufferSize({40000, 40000}, {40000, 40000}, pxlDt32f, 4, &size), pxlStatusSizeOverflow);
+
+    EXPECT_EQ(pxliFilterBoxBorderGetBufferSize({0, 4}, {0, 2}, 2, 2, nullptr), pxlStatusNullPointer);
+    EXPECT_EQ(pxliFilterBoxBorderGetBufferSize({0, 4}, {0, 2}, 2, 2, &size), pxlStatusBadSize);
+    EXPECT_EQ(pxliFilterBoxBorderGetBufferSize({4, 4}, {0, 2}, 2, 2, &size), pxlStatusBadMaskSize);
+    EXPECT_EQ(pxliFilterBoxBorderGetBufferSize({4, 4}, {2, 2}, 2, 2, &size), pxlStatusBadDataType);
+    EXPECT_EQ(pxliFilterBoxBorderGetBufferSize({4, 4}, {2, 2}, pxlDt8u, 2, &size), pxlStatusBadChannelCount);
+}
+
+TEST(FilterBoxBorder, CheckOrder)
+{
+    const PxliSize roi{9, 7}, mask{3, 3};
+    int size = 0;
+    ASSERT_EQ(pxliFilterBoxBorderGetBufferSize(roi, mask, pxlDt8u, 3, &size), pxlStatusOk);
+    GuardedImage<Pxl8u> src(roi.width, roi.height, 3), dst(roi.width, roi.height, 3);
+    GuardedBuffer work(size, 1, 0, 64, 0);
+    const Pxl8u value[3] = {1, 2, 3};
+    struct Args {
+        const Pxl8u* src;
+        int srcStep;
+        Pxl8u* dst;
+        int dstStep;
+        PxliSize roi, mask;
+        int border;
+        const Pxl8u* value;
+        Pxl8u* buffer;
+    };
+    const Args valid{src.data(), src.step(), dst.data(), dst.step(), roi, mask, pxlBorderConstant, value, work.base()};
+    pxltest::expectCheckOrder<Args>(
+        valid,
+        {{"null buffer", pxlStatusNullPointer, [](Args& a) { a.buffer = nullptr; }},
+         {"source step 0", pxlStatusBadStep, [](Args& a) { a.srcStep = 0; }},
+         {"destination step 0", pxlStatusBadStep, [](Args& a) { a.dstStep = 0; }},
+         {"height 0", pxlStatusBadSize, [](Args& a) { a.roi.height = 0; }},
+         {"mask width 0", pxlStatusBadMaskSize, [](Args& a) { a.mask.width = 0; }},
+         {"word 256 + 6", pxlStatusBadBorder, [](Args& a) { a.border = 256 + 6; }},
+         {"null value", pxlStatusNullPointer, [](Args& a) { a.value = nullptr; }}},
+        [](const Args& a) {
+            return pxliFilterBoxBorder_8u_C3R(a.src, a.srcStep, a.dst, a.dstStep, a.roi, a.mask, a.border, a.value, a.buffer);
+        },
+        {&dst, &work});
+    EXPECT_EQ(pxliFilterBoxBorder_8u_C3R(src.data(), src.step(), dst.data(), dst.step(), roi, mask, 2, nullptr, work.base()),
+              pxlStatusBadBorder);
+    EXPECT_EQ(pxliFilterBoxBorder_8u_C3R(src.data(), src.step(), dst.data(), dst.step(), roi, mask, 0xF6, nullptr, work.base()),
+              pxlStatusNullPointer);
+}
+
+}  // namespace
