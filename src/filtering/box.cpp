@@ -55,67 +55,67 @@ template <class T> inline T boxMean(float s, float inv)
     else return static_cast<T>(static_cast<int32_t>(inv * s + 0.5f));
 }
 
-// Horizontal window sums of one channel's column sums, exact: out(x) = col[x] + ... + col[x+kw-1].
-template <int KW> inline void windowSums(const int32_t* col, int32_t* sums, int width)
+// Window sums along a row of column sums whose pixels are N samples apart, exact:
+// sums[j] = col[j] + col[j + N] + ... + col[j + (kw - 1) N], for len samples.
+template <int KW, int N, class A> inline void windowSumsFixed(const A* col, A* sums, int len)
 {
-    for (int x = 0; x < width; ++x) {
-        int32_t s = 0;
-        for (int k = 0; k < KW; ++k) s += col[x + k];
-        sums[x] = s;
+    for (int j = 0; j < len; ++j) {
+        A s = 0;
+        for (int k = 0; k < KW; ++k) s = static_cast<A>(s + col[j + k * N]);
+        sums[j] = s;
     }
 }
-inline void windowSumsAny(const int32_t* col, int32_t* sums, int width, int kw)
+template <int N, int KW = 1, class A> void windowSums(const A* col, A* sums, int len, int kw)
 {
-    switch (kw) {
-    case 1: windowSums<1>(col, sums, width); return;
-    case 2: windowSums<2>(col, sums, width); return;
-    case 3: windowSums<3>(col, sums, width); return;
-    case 4: windowSums<4>(col, sums, width); return;
-    case 5: windowSums<5>(col, sums, width); return;
-    case 6: windowSums<6>(col, sums, width); return;
-    case 7: windowSums<7>(col, sums, width); return;
-    default: {
-        // The running sum, one addition of a precomputed difference per pixel.
-        int32_t s = 0;
-        for (int k = 0; k < kw - 1; ++k) s += col[k];
-        for (int x = 0; x < width; ++x) {
-            s += col[x + kw - 1];
-            sums[x] = s;
-            s -= col[x];
+    // Up to 16 columns the compiler keeps the window in registers; beyond, a running sum for each
+    // channel, two operations a sample whatever the width.
+    if constexpr (KW <= 16) {
+        if (kw == KW) return windowSumsFixed<KW, N>(col, sums, len);
+        return windowSums<N, KW + 1>(col, sums, len, kw);
+    } else {
+        for (int c = 0; c < N && c < len; ++c) {
+            A sum = 0;
+            for (int k = 0; k < kw - 1; ++k) sum = static_cast<A>(sum + col[c + k * N]);
+            for (int j = c; j < len; j += N) {
+                sum = static_cast<A>(sum + col[j + (kw - 1) * N]);
+                sums[j] = sum;
+                sum = static_cast<A>(sum - col[j]);
+            }
         }
-    }
     }
 }
 
 // One piece, exact: emit(y) gives where output row y goes; T's samples are N apart in memory and
-// the first P of each pixel are filtered. `col` holds P planes of (width + kw - 1) sums.
-template <class T, int N, int P, class Emit>
-void boxExact(const T* win, int winStep, int width, int height, int kw, int kh, float inv, int32_t* col, Emit emit)
+// the first P of each pixel are filtered. `col` holds the column sums, interleaved as the pixels,
+// in A: 32-bit, or 16-bit lanes (twice as many to a register) where every sum fits them.
+template <class T, int N, int P, class A, class Emit>
+void boxExact(const T* win, int winStep, int width, int height, int kw, int kh, float inv, A* col, Emit emit)
 {
-    constexpr int kChunk = 256;
-    const int span = width + kw - 1;
-    int32_t sums[kChunk];
-    std::fill_n(col, std::ptrdiff_t{P} * span, 0);
+    constexpr int kChunk = 256 / N * N;  // whole pixels
+    const int span = (width + kw - 1) * N, samples = width * N;
+    A sums[kChunk];
+    std::fill_n(col, span, 0);
     for (int i = 0; i < kh; ++i) {
         const T* row = rowAt(win, winStep, i);
-        for (int c = 0; c < P; ++c)
-            for (int x = 0; x < span; ++x) col[c * span + x] += row[x * N + c];
+        for (int j = 0; j < span; ++j) col[j] = static_cast<A>(col[j] + row[j]);
     }
     for (int y = 0; y < height; ++y) {
         if (y > 0) {
             const T* in = rowAt(win, winStep, y + kh - 1);
             const T* out = rowAt(win, winStep, y - 1);
-            for (int c = 0; c < P; ++c)
-                for (int x = 0; x < span; ++x) col[c * span + x] += int32_t{in[x * N + c]} - int32_t{out[x * N + c]};
+            for (int j = 0; j < span; ++j) col[j] = static_cast<A>(col[j] + (int32_t{in[j]} - int32_t{out[j]}));
         }
         T* o = emit(y);
-        for (int c = 0; c < P; ++c)
-            for (int x0 = 0; x0 < width; x0 += kChunk) {
-                const int len = std::min(kChunk, width - x0);
-                windowSumsAny(col + c * span + x0, sums, len, kw);
-                T* oc = o + std::ptrdiff_t{N} * x0 + c;
-                for (int x = 0; x < len; ++x) oc[x * N] = boxMean<T>(static_cast<float>(sums[x]), inv);
+        for (int j0 = 0; j0 < samples; j0 += kChunk) {
+            const int len = std::min(kChunk, samples - j0);
+            windowSums<N>(col + j0, sums, len, kw);
+            if constexpr (N == P) {
+                for (int j = 0; j < len; ++j) o[j0 + j] = boxMean<T>(static_cast<float>(sums[j]), inv);
+            } else {
+                for (int j = 0; j < len; j += N)
+                    for (int c = 0; c < P; ++c) o[j0 + j + c] = boxMean<T>(static_cast<float>(sums[j + c]), inv);
             }
+        }
     }
 }
 
@@ -194,8 +194,10 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
     constexpr double largest = std::max(-static_cast<double>(std::numeric_limits<T>::lowest()), static_cast<double>(std::numeric_limits<T>::max()));
     const bool exact = largest * kw * kh < 0x1p24;
     // The kernel of one piece, writing output row y where emit(y) says.
+    const bool narrow = std::is_same_v<T, Pxl8u> && 255 * kw * kh <= 65535;
     auto piece = [&](const T* win, int winStep, int width, int height, auto emit) {
-        if (exact) boxExact<T, N, P>(win, winStep, width, height, kw, kh, inv, columns, emit);
+        if (narrow) boxExact<T, N, P>(win, winStep, width, height, kw, kh, inv, reinterpret_cast<uint16_t*>(columns), emit);
+        else if (exact) boxExact<T, N, P>(win, winStep, width, height, kw, kh, inv, columns, emit);
         else boxInOrder<T, N, P>(win, winStep, width, height, kw, kh, inv, reinterpret_cast<float*>(columns), emit);
     };
     auto rows = [&](const T* win, int winStep, T* out, int outStep, int width, int height) {
