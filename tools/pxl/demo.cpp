@@ -325,7 +325,8 @@ void statisticsDemo(Context& ctx)
 }
 
 // The general filter: the colour image sharpened (integer taps) and the gray image embossed
-// (the difference across the diagonal around mid-gray), both with replicated borders.
+// (the difference across the diagonal around mid-gray), both with replicated borders; the box
+// filter's mean of the colour image.
 void filterDemo(Context& ctx)
 {
     const Image& src = ctx.rgb;
@@ -357,8 +358,22 @@ void filterDemo(Context& ctx)
                             embossBuffer.data());
     ctx.save("filter_emboss", embossed);
 
+    // The box filter: a 15x15 mean of the colour image, mirrored at the borders.
+    int boxSize = 0;
+    const PxliSize boxMask{15, 15};
+    pxliFilterBoxBorderGetBufferSize(roi, boxMask, pxlDt8u, 3, &boxSize);
+    std::vector<Pxl8u> boxBuffer(static_cast<std::size_t>(boxSize));
+    Image blurred(src.width, src.height, 3);
+    auto box = [&] {
+        pxliFilterBoxBorder_8u_C3R(src.data, src.step, blurred.data, blurred.step, roi, boxMask, pxlBorderMirror, nullptr,
+                                   boxBuffer.data());
+    };
+    box();
+    ctx.save("filter_box15", blurred);
+
     const std::string size = std::to_string(src.width) + "x" + std::to_string(src.height);
     const double px = static_cast<double>(src.width) * src.height;
+    ctx.time("pxliFilterBoxBorder_8u_C3R (15x15)", size, px, box);
     ctx.time("pxliFilterBorder_8u_C3R (3x3 sharpen)", size, px, [&] {
         pxliFilterBorder_8u_C3R(src.data, src.step, sharpened.data, sharpened.step, roi, pxlBorderReplicate, nullptr, sharp,
                                 sharpBuffer.data());
