@@ -71,6 +71,12 @@ PxlStatus pxliFilterBoxBorder_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* p
 PxlStatus pxliFilterBoxBorder_16s_C4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[4], Pxl8u* pBuffer);
 PxlStatus pxliFilterBoxBorder_16s_AC4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
 
+/* The 64f box mean with no border: dst(x, y) = the mean of the maskSize window starting anchor.x
+ * left and anchor.y above the pixel (the caller's buffer holds those pixels). The sums run as
+ * running sums: along each source row (the first kw - 1 samples in order, then plus the incoming
+ * and minus the outgoing sample), then down the rows the same way, scaled by 1 / (kw * kh). */
+PxlStatus pxliFilterBox_64f_C1R(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize dstRoiSize, PxliSize maskSize, PxliPoint anchor);
+
 /* Running sums of a window of maskSize samples along each row (Row) or down each column (Column),
  * the window starting anchor samples before each output sample (the caller's buffer holds those
  * around the region), into 32f. The first window of a row or column is summed in 32f in order;

@@ -233,6 +233,59 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
     return pxlStatusOk;
 }
 
+// The 64f mean with no border: the caller's buffer holds the window's pixels around the region.
+// Horizontal window sums run along each source row: the first kw - 1 samples summed in order,
+// then for each pixel plus the incoming sample (the window's sum) and minus the outgoing one. The
+// vertical sums run down the rows the same way, carried in the destination itself: row y + 1
+// starts as row y's sum minus the leaving row's window sums plus the entering row's, and row y is
+// then scaled by 1 / (kw * kh). A window sum is made again where it is needed a second time, by
+// the same additions, so no buffer is needed.
+PxlStatus filterBox64f(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize roi, PxliSize mask, PxliPoint anchor)
+{
+    // Checks: pointers, sizes, steps.
+    if (!pSrc || !pDst) return pxlStatusNullPointer;
+    if (badSize(roi) || badSize(mask)) return pxlStatusBadSize;
+    const int W = roi.width, H = roi.height, kw = mask.width, kh = mask.height;
+    if (srcStep < (int64_t{W} + kw - 1) * 8 || dstStep < int64_t{W} * 8) return pxlStatusBadStep;
+
+    const double inv = 1.0 / (static_cast<double>(kw) * kh);
+    const Pxl64f* win = rowAt(pSrc, srcStep, -anchor.y) - anchor.x;
+    // Applies the window sums of source row r to destination row d: apply(d[x], sum).
+    auto windowSums = [&](int r, Pxl64f* d, auto apply) {
+        const Pxl64f* s = rowAt(win, srcStep, r);
+        double sum = 0;
+        for (int k = 0; k < kw - 1; ++k) sum += s[k];
+        for (int x = 0; x < W; ++x) {
+            sum += s[x + kw - 1];
+            apply(d[x], sum);
+            sum -= s[x];
+        }
+    };
+    auto add = [](double& v, double h) { v += h; };
+    auto subtract = [](double& v, double h) { v -= h; };
+    if (kh == 1) {
+        // One row high: the horizontal window alone.
+        for (int y = 0; y < H; ++y) {
+            Pxl64f* d = rowAt(pDst, dstStep, y);
+            windowSums(y, d, [inv](double& v, double h) { v = inv * h; });
+        }
+        return pxlStatusOk;
+    }
+    std::fill_n(pDst, W, 0.0);
+    for (int i = 0; i < kh; ++i) windowSums(i, pDst, add);
+    for (int y = 0; y < H; ++y) {
+        Pxl64f* d = rowAt(pDst, dstStep, y);
+        if (y + 1 < H) {
+            Pxl64f* next = rowAt(pDst, dstStep, y + 1);
+            std::copy_n(d, W, next);
+            windowSums(y, next, subtract);
+            windowSums(y + kh, next, add);
+        }
+        for (int x = 0; x < W; ++x) d[x] *= inv;
+    }
+    return pxlStatusOk;
+}
+
 }  // namespace pxl::filt
 
 #include "inst/filtering/box.inc"

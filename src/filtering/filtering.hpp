@@ -25,6 +25,7 @@ PxlStatus filterBoxBorderGetBufferSize(PxliSize roiSize, PxliSize maskSize, PxlD
 template <class T, class L>
 PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border,
                           const T* pBorderValue, Pxl8u* pBuffer);
+PxlStatus filterBox64f(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize dstRoiSize, PxliSize maskSize, PxliPoint anchor);
 
 // Running window sums along rows and columns.
 template <class S, class L>

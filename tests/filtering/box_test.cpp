@@ -211,4 +211,52 @@ TEST(FilterBoxBorder, CheckOrder)
               pxlStatusNullPointer);
 }
 
+// The 64f mean: exact for integer samples; for any samples, the running sums of the rule.
+TEST(FilterBox64f, MeansAndOrder)
+{
+    Rng rng(12);
+    for (int n = 0; n < 80; ++n) {
+        const PxliSize mask{rng.uniformInt(1, 7), rng.uniformInt(1, 7)}, roi{rng.uniformInt(1, 40), rng.uniformInt(1, 9)};
+        const PxliPoint anchor{rng.uniformInt(0, mask.width - 1), rng.uniformInt(0, mask.height - 1)};
+        const bool integers = n % 2 == 0;
+        GuardedImage<Pxl64f> src(roi.width + mask.width - 1, roi.height + mask.height - 1, 1), dst(roi.width, roi.height, 1);
+        for (int y = 0; y < src.height(); ++y)
+            for (int x = 0; x < src.width(); ++x)
+                src.at(x, y) = integers ? rng.uniformInt(-1000, 1000) : rng.any<double>();
+        ASSERT_EQ(pxliFilterBox_64f_C1R(&src.at(anchor.x, anchor.y), src.step(), dst.data(), dst.step(), roi, mask, anchor), pxlStatusOk);
+        const double inv = 1.0 / (static_cast<double>(mask.width) * mask.height);
+        // h(r, x): the running sum along source row r; the vertical sums run the same way.
+        auto h = [&](int r, int x) {
+            double s = 0;
+            for (int k = 0; k < mask.width - 1; ++k) s += src.at(k, r);
+            for (int i = 0;; ++i) {
+                s += src.at(i + mask.width - 1, r);
+                if (i == x) return s;
+                s -= src.at(i, r);
+            }
+        };
+        EXPECT_TRUE(pxltest::matchesEach(dst, [&](int x, int y, int) {
+            if (integers) {
+                int64_t s = 0;
+                for (int i = 0; i < mask.height; ++i)
+                    for (int k = 0; k < mask.width; ++k) s += static_cast<int64_t>(src.at(x + k, y + i));
+                return inv * static_cast<double>(s);
+            }
+            if (mask.height == 1) return inv * h(y, x);
+            double v = 0;
+            for (int i = 0; i < mask.height - 1; ++i) v += h(i, x);
+            for (int r = 0;; ++r) {
+                v += h(r + mask.height - 1, x);
+                if (r == y) return inv * v;
+                v -= h(r, x);
+            }
+        })) << "mask " << mask.width << "x" << mask.height << " roi " << roi.width << "x" << roi.height;
+    }
+    GuardedImage<Pxl64f> src(8, 8, 1), dst(4, 4, 1);
+    EXPECT_EQ(pxliFilterBox_64f_C1R(nullptr, src.step(), dst.data(), dst.step(), {4, 4}, {0, 3}, {0, 0}), pxlStatusNullPointer);
+    EXPECT_EQ(pxliFilterBox_64f_C1R(src.data(), src.step(), dst.data(), dst.step(), {4, 4}, {0, 3}, {0, 0}), pxlStatusBadSize);
+    EXPECT_EQ(pxliFilterBox_64f_C1R(src.data(), 32, dst.data(), dst.step(), {4, 4}, {2, 3}, {0, 0}), pxlStatusBadStep);
+    EXPECT_EQ(pxliFilterBox_64f_C1R(src.data(), src.step(), dst.data(), 24, {4, 4}, {2, 3}, {0, 0}), pxlStatusBadStep);
+}
+
 }  // namespace
