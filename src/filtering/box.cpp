@@ -7,16 +7,17 @@
 // in whatever order is fastest, with the same results; beyond that (16u with masks over 256
 // samples, say) the rule's own order of 32f additions runs, piece by piece.
 #include "filtering/filtering.hpp"
+#include "filtering/rows.hpp"
 #include "filtering/strips.hpp"
 
 #include "exchange/border.hpp"
+#include "exchange/kernels.hpp"
 #include "frame/bind.hpp"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <type_traits>
 
@@ -65,14 +66,11 @@ template <int KW, int N, class A> inline void windowSumsFixed(const A* col, A* s
         sums[j] = s;
     }
 }
-template <int N, int KW = 1, class A> void windowSums(const A* col, A* sums, int len, int kw)
+template <int N, class A> void windowSums(const A* col, A* sums, int len, int kw)
 {
     // Up to 16 columns the compiler keeps the window in registers; beyond, a running sum for each
     // channel, two operations a sample whatever the width.
-    if constexpr (KW <= 16) {
-        if (kw == KW) return windowSumsFixed<KW, N>(col, sums, len);
-        return windowSums<N, KW + 1>(col, sums, len, kw);
-    } else {
+    if (!withFixedWidth<16>(kw, [&](auto width) { windowSumsFixed<decltype(width)::value, N>(col, sums, len); })) {
         for (int c = 0; c < N && c < len; ++c) {
             A sum = 0;
             for (int k = 0; k < kw - 1; ++k) sum = static_cast<A>(sum + col[c + k * N]);
@@ -159,9 +157,9 @@ PxlStatus filterBoxBorderGetBufferSize(PxliSize roi, PxliSize mask, PxlDataType 
     if (!pBufferSize) return pxlStatusNullPointer;
     if (badSize(roi)) return pxlStatusBadSize;
     if (badSize(mask)) return pxlStatusBadMaskSize;
-    if (dataType != pxlDt8u && dataType != pxlDt16u && dataType != pxlDt16s && dataType != pxlDt32f) return pxlStatusBadDataType;
+    if (!knownDataType(dataType)) return pxlStatusBadDataType;
     if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pxlStatusBadChannelCount;
-    const int64_t total = boxAreas(roi, mask, numChannels, dataType == pxlDt8u ? 1 : dataType == pxlDt32f ? 4 : 2).total();
+    const int64_t total = boxAreas(roi, mask, numChannels, dataTypeBytes(dataType)).total();
     if (total > INT32_MAX) return pxlStatusSizeOverflow;
     *pBufferSize = static_cast<int>(total);
     return pxlStatusOk;
@@ -191,8 +189,7 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
     auto* columns = reinterpret_cast<int32_t*>(base + areas.strips);
     Pxl8u* slots = base + areas.strips + areas.columns;
 
-    constexpr double largest = std::max(-static_cast<double>(std::numeric_limits<T>::lowest()), static_cast<double>(std::numeric_limits<T>::max()));
-    const bool exact = largest * kw * kh < 0x1p24;
+    const bool exact = largestMagnitude<T>() * kw * kh < 0x1p24;
     // The kernel of one piece, writing output row y where emit(y) says.
     const bool narrow = std::is_same_v<T, Pxl8u> && 255 * kw * kh <= 65535;
     auto piece = [&](const T* win, int winStep, int width, int height, auto emit) {
@@ -215,14 +212,7 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
     auto inPlace = [&](const T* win, int winStep, int x0, int y0, int width, int height) {
         const int bytes = width * N * static_cast<int>(sizeof(T));
         auto slot = [&](int y) { return reinterpret_cast<T*>(slots + std::ptrdiff_t{y % count} * bytes); };
-        auto flush = [&](int y) {
-            T* to = rowAt(pDst, dstStep, y0 + y) + std::ptrdiff_t{N} * x0;
-            const T* from = slot(y);
-            if constexpr (N == P) std::memcpy(to, from, static_cast<std::size_t>(bytes));
-            else
-                for (int x = 0; x < width; ++x)
-                    for (int c = 0; c < P; ++c) to[x * N + c] = from[x * N + c];
-        };
+        auto flush = [&](int y) { krnCopyPixels<T, L>(slot(y), rowAt(pDst, dstStep, y0 + y) + std::ptrdiff_t{N} * x0, width); };
         piece(win, winStep, width, height, [&](int y) {
             if (y >= count) flush(y - count);
             return slot(y);
@@ -251,7 +241,7 @@ PxlStatus filterBox64f(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstSte
     const double inv = 1.0 / (static_cast<double>(kw) * kh);
     const Pxl64f* win = rowAt(pSrc, srcStep, -anchor.y) - anchor.x;
     // Applies the window sums of source row r to destination row d: apply(d[x], sum).
-    auto windowSums = [&](int r, Pxl64f* d, auto apply) {
+    auto rowSums = [&](int r, Pxl64f* d, auto apply) {
         const Pxl64f* s = rowAt(win, srcStep, r);
         double sum = 0;
         for (int k = 0; k < kw - 1; ++k) sum += s[k];
@@ -267,19 +257,19 @@ PxlStatus filterBox64f(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstSte
         // One row high: the horizontal window alone.
         for (int y = 0; y < H; ++y) {
             Pxl64f* d = rowAt(pDst, dstStep, y);
-            windowSums(y, d, [inv](double& v, double h) { v = inv * h; });
+            rowSums(y, d, [inv](double& v, double h) { v = inv * h; });
         }
         return pxlStatusOk;
     }
     std::fill_n(pDst, W, 0.0);
-    for (int i = 0; i < kh; ++i) windowSums(i, pDst, add);
+    for (int i = 0; i < kh; ++i) rowSums(i, pDst, add);
     for (int y = 0; y < H; ++y) {
         Pxl64f* d = rowAt(pDst, dstStep, y);
         if (y + 1 < H) {
             Pxl64f* next = rowAt(pDst, dstStep, y + 1);
             std::copy_n(d, W, next);
-            windowSums(y, next, subtract);
-            windowSums(y + kh, next, add);
+            rowSums(y, next, subtract);
+            rowSums(y + kh, next, add);
         }
         for (int x = 0; x < W; ++x) d[x] *= inv;
     }

@@ -8,6 +8,7 @@
 // or the result is finished from both ends of an interval that holds the extended sum, and agrees.
 // The rare pixels where the two ends differ are summed again in extended precision.
 #include "filtering/filtering.hpp"
+#include "filtering/rows.hpp"
 #include "filtering/strips.hpp"
 
 #include "exchange/border.hpp"
@@ -63,9 +64,6 @@ int64_t recordBytes(int kw, int kh, int tapBytes)
 {
     return round64(int64_t{kw} * kh * tapBytes) + round64(int64_t{(kw + 1) & ~1} * 16 * kh) + kHeadBytes + 63;
 }
-
-bool knownDataType(PxlDataType t) { return t == pxlDt8u || t == pxlDt16u || t == pxlDt16s || t == pxlDt32f; }
-int sampleBytes(PxlDataType t) { return t == pxlDt8u ? 1 : t == pxlDt32f ? 4 : 2; }
 
 // The rounding word: a code 0 to 2, with the hint bit (or its short form 16) beside it.
 bool badRoundWord(int word)
@@ -186,15 +184,8 @@ inline void addRowFixed(A* acc, const S* s, const Tp* t, int len)
 }
 template <int N, class A, class S, class Tp> inline void addRow(A* acc, const S* s, const Tp* t, int kw, int len)
 {
-    switch (kw) {
-    case 1: addRowFixed<1, N>(acc, s, t, len); return;
-    case 2: addRowFixed<2, N>(acc, s, t, len); return;
-    case 3: addRowFixed<3, N>(acc, s, t, len); return;
-    case 4: addRowFixed<4, N>(acc, s, t, len); return;
-    case 5: addRowFixed<5, N>(acc, s, t, len); return;
-    default:
+    if (!withFixedWidth<5>(kw, [&](auto width) { addRowFixed<decltype(width)::value, N>(acc, s, t, len); }))
         for (int k = 0; k < kw; ++k) addRowFixed<1, N>(acc, s + k * N, t + k, len);
-    }
 }
 
 // The sums of a chunk of output samples: acc[j] += every tap times its sample, for the len samples
@@ -252,6 +243,11 @@ inline void squareSums(A* acc, const Tp* taps, const S* const* row, int len)
 // The magnitudes of float samples on their bits, whose integer order is the order of the values
 // with infinity and then NaN above every finite one; as a double, infinite for those two.
 inline uint32_t magnitudeBits(float v) { return std::bit_cast<uint32_t>(v) & 0x7FFFFFFFu; }
+inline uint32_t largestMagnitudeBits(const float* s, int n, uint32_t m)
+{
+    for (int j = 0; j < n; ++j) m = std::max(m, magnitudeBits(s[j]));
+    return m;
+}
 inline double magnitudeOf(uint32_t bits)
 {
     return bits >= 0x7F800000u ? std::numeric_limits<double>::infinity() : static_cast<double>(std::bit_cast<float>(bits));
@@ -274,11 +270,7 @@ void squareRing(const double* taps, const T* win, int winStep, T* out, int outSt
             const T* s = rowAt(win, winStep, y) + j0;
             double* d = ring[y % K];
             for (int j = 0; j < span; ++j) d[j] = static_cast<double>(s[j]);
-            if constexpr (std::is_same_v<T, Pxl32f>) {
-                uint32_t m = 0;
-                for (int j = 0; j < span; ++j) m = std::max(m, magnitudeBits(s[j]));
-                mag[y % K] = m;
-            }
+            if constexpr (std::is_same_v<T, Pxl32f>) mag[y % K] = largestMagnitudeBits(s, span, 0);
         };
         for (int y = 0; y < K - 1; ++y) load(y);
         for (int y = 0; y < height; ++y) {
@@ -297,12 +289,38 @@ void squareRing(const double* taps, const T* win, int winStep, T* out, int outSt
 
 // ---- Integer taps.
 
+// Rounding to nearest with ties upward (the third rounding code), exactly: the difference of a
+// value and its truncation is exact.
+template <class F> inline F roundTiesUp(F v)
+{
+    const F t = std::trunc(v), f = v - t;
+    return f >= F(0.5) ? t + 1 : f < F(-0.5) ? t - 1 : t;
+}
+
+// A real result as D: 32f data stores it; integer data is saturated to D and rounded by the code
+// (2: to nearest with ties upward). NaN gives 0.
+template <class D, int Code, class F> inline D finishReal(F v)
+{
+    if constexpr (std::is_same_v<D, Pxl32f>) {
+        return static_cast<float>(v);
+    } else {
+        constexpr F lo = std::numeric_limits<D>::lowest(), hi = std::numeric_limits<D>::max();
+        v = v == v ? v : F(0);
+        if (v >= hi) return static_cast<D>(hi);
+        if (v <= lo) return static_cast<D>(lo);
+        F q;
+        if constexpr (Code == kNearestEven || Code == kTowardZero) q = roundIntegral<Code>(v);
+        else q = roundTiesUp(v);
+        return static_cast<D>(static_cast<int32_t>(q));
+    }
+}
+
 // The record's divisor, copied out of it so that the finishing loops hold it in registers.
 struct Divisor {
     int shift;
-    int64_t mask, half, value;
+    int64_t mask, half;
     double f64;
-    explicit Divisor(const Record& r) : shift(r.shift), mask(r.shiftMask), half(r.half), value(r.divisor), f64(r.divisorF64) {}
+    explicit Divisor(const Record& r) : shift(r.shift), mask(r.shiftMask), half(r.half), f64(r.divisorF64) {}
 };
 
 // The integer result of a sum v by the divisor's class and the rounding code, saturated to D.
@@ -322,13 +340,7 @@ template <class D, int Class, int Code, class V> inline D finishInt(V v, Divisor
     } else {
         // The quotient of integers below 2^51 never rounds across an integer or a half, so its
         // double is as good as the exact one for every code.
-        const double d = static_cast<double>(v) / r.f64;
-        if (d >= static_cast<double>(hi)) return static_cast<D>(hi);
-        if (d <= static_cast<double>(lo)) return static_cast<D>(lo);
-        const double t = std::trunc(d), f = d - t;
-        if constexpr (Code == kTowardZero) q = static_cast<V>(t);
-        else if constexpr (Code == kNearestEven) q = static_cast<V>(roundIntegral<kNearestEven>(d));
-        else q = static_cast<V>(f >= 0.5 ? t + 1 : f < -0.5 ? t - 1 : t);  // ties upward
+        return finishReal<D, Code>(static_cast<double>(v) / r.f64);
     }
     return static_cast<D>(q < lo ? lo : q > hi ? hi : q);
 }
@@ -435,39 +447,11 @@ template <int N> void rows16sInt(const Record& r, const Pxl16s* win, int winStep
 
 // ---- Float taps.
 
-// The extended sum's result as D: 32f data stores the sum; integer data is saturated to D and
-// rounded by the code (2: to nearest with ties upward). NaN gives 0.
-template <class D, int Code, class F> inline D finishReal(F v)
-{
-    if constexpr (std::is_same_v<D, Pxl32f>) {
-        return static_cast<float>(v);
-    } else {
-        constexpr F lo = std::numeric_limits<D>::lowest(), hi = std::numeric_limits<D>::max();
-        v = v == v ? v : F(0);
-        if (v >= hi) return static_cast<D>(hi);
-        if (v <= lo) return static_cast<D>(lo);
-        F q;
-        if constexpr (Code == kNearestEven || Code == kTowardZero) {
-            q = roundIntegral<Code>(v);
-        } else {
-            const F t = std::trunc(v), f = v - t;
-            q = f >= F(0.5) ? t + 1 : f < F(-0.5) ? t - 1 : t;
-        }
-        return static_cast<D>(static_cast<int32_t>(q));
-    }
-}
-
 // A sample as a word whose bits differ wherever two samples' bits do.
 template <class T> inline uint32_t wordOf(T v)
 {
     if constexpr (std::is_same_v<T, Pxl32f>) return std::bit_cast<uint32_t>(v);
     else return static_cast<uint32_t>(v);
-}
-
-template <class T> constexpr double largestMagnitude()
-{
-    if constexpr (std::is_same_v<T, Pxl32f>) return 0.0;
-    else return std::max(-static_cast<double>(std::numeric_limits<T>::lowest()), static_cast<double>(std::numeric_limits<T>::max()));
 }
 
 // Whether, for integer data, double sums of these taps and offset are exact: every product and the
@@ -514,10 +498,7 @@ void rowsFloat(const Record& r, const T* win, int winStep, T* out, int outStep, 
         sums(acc, y, j0, len);
         if constexpr (floatData) {
             uint32_t m = 0;
-            for (int i = 0; i < kh; ++i) {
-                const T* s = rowAt(win, winStep, y + i) + j0;
-                for (int j = 0, span = len + (kw - 1) * N; j < span; ++j) m = std::max(m, magnitudeBits(s[j]));
-            }
+            for (int i = 0; i < kh; ++i) m = largestMagnitudeBits(rowAt(win, winStep, y + i) + j0, len + (kw - 1) * N, m);
             chunkMagnitude = magnitudeOf(m);
         }
     };
@@ -608,7 +589,7 @@ PxlStatus filterBorderGetSize(PxliSize kernelSize, PxliSize roiSize, PxlDataType
     const int kw = kernelSize.width, kh = kernelSize.height;
     const bool floatTaps = kernelType == pxlDt32f || tapsAsFloat(dataType, numChannels, kw, kh);
     const int64_t spec = recordBytes(kw, kh, floatTaps ? 4 : 2);
-    const int64_t buffer = stripBytes(kernelSize, roiSize, numChannels, sampleBytes(dataType)) + 63 +
+    const int64_t buffer = stripBytes(kernelSize, roiSize, numChannels, dataTypeBytes(dataType)) + 63 +
                            scratchBytes(dataType, kernelType, numChannels, kw, kh, roiSize.width);
     if (buffer > INT32_MAX || spec > INT32_MAX) {
         *pBufferSize = 0;

@@ -45,6 +45,10 @@ using AC4 = Layout<4, 3>;
 
 inline bool badSize(PxliSize roi) { return roi.width < 1 || roi.height < 1; }
 
+// The run-time sample types that the families taking a type code accept, and their widths.
+inline bool knownDataType(PxlDataType t) { return t == pxlDt8u || t == pxlDt16u || t == pxlDt16s || t == pxlDt32f; }
+inline int dataTypeBytes(PxlDataType t) { return t == pxlDt8u ? 1 : t == pxlDt32f ? 4 : 2; }
+
 // A region whose rows follow each other with no gap in every image it touches is one long row.
 // `rowBytes` is each image's row length; steps that match it let the caller walk a single row.
 inline PxliSize mergedRows(PxliSize roi, bool contiguous)

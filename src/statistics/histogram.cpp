@@ -49,7 +49,6 @@ HistHeader readHeader(const void* spec)
     return h;
 }
 
-bool knownType(PxlDataType t) { return t == pxlDt8u || t == pxlDt16u || t == pxlDt16s || t == pxlDt32f; }
 bool knownChannels(int n) { return n == 1 || n == 3 || n == 4; }
 
 template <class T> constexpr PxlDataType typeCode()
@@ -170,7 +169,7 @@ PxlStatus histogramGetBufferSize(PxlDataType dataType, PxliSize roi, const int* 
         if (nLevels[c] < 2) return pxlStatusBadHistogramLevels;
         levels += nLevels[c];
     }
-    if (!knownType(dataType)) return pxlStatusBadDataType;
+    if (!knownDataType(dataType)) return pxlStatusBadDataType;
     if (kRecordBytes + 4 * levels > INT32_MAX) return pxlStatusSizeOverflow;
     *pSpecSize = static_cast<int>(kRecordBytes + 4 * levels);
     *pBufferSize = dataType == pxlDt8u ? 1024 * numChannels : dataType == pxlDt32f ? 0 : 262144 * numChannels;
@@ -181,7 +180,7 @@ PxlStatus histogramUniformInit(PxlDataType dataType, const Pxl32f* lowerLevel, c
                                int numChannels, PxliHistogramSpec* pSpec)
 {
     // Data type, pointers, channels, levels, limits.
-    if (!knownType(dataType)) return failInit(pSpec, pxlStatusBadDataType);
+    if (!knownDataType(dataType)) return failInit(pSpec, pxlStatusBadDataType);
     if (!lowerLevel || !upperLevel || !nLevels || !pSpec) return failInit(pSpec, pxlStatusNullPointer);
     if (!knownChannels(numChannels)) return failInit(pSpec, pxlStatusBadChannelCount);
     for (int c = 0; c < numChannels; ++c)
@@ -207,7 +206,7 @@ PxlStatus histogramInit(PxlDataType dataType, const Pxl32f* const* pLevels, cons
                         PxliHistogramSpec* pSpec)
 {
     // Data type, pointers, channels, channel tables, level counts, rising levels.
-    if (!knownType(dataType)) return failInit(pSpec, pxlStatusBadDataType);
+    if (!knownDataType(dataType)) return failInit(pSpec, pxlStatusBadDataType);
     if (!pLevels || !nLevels || !pSpec) return failInit(pSpec, pxlStatusNullPointer);
     if (!knownChannels(numChannels)) return failInit(pSpec, pxlStatusBadChannelCount);
     for (int c = 0; c < numChannels; ++c)

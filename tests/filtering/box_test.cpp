@@ -29,11 +29,6 @@ PxlStatus callBox(const T* s, int ss, T* d, int ds, PxliSize roi, PxliSize mask,
 #undef PXL_BOX
 }
 
-template <class T> PxlDataType typeOf()
-{
-    return std::is_same_v<T, Pxl8u> ? pxlDt8u : std::is_same_v<T, Pxl16u> ? pxlDt16u : pxlDt16s;
-}
-
 // The mean of an exact sum by the rule.
 template <class T> T mean(int64_t sum, PxliSize mask)
 {
@@ -62,7 +57,7 @@ template <class T, int N, bool Alpha> void boxCases(int cases, uint64_t seed, in
         T value[4];
         for (T& v : value) v = rng.sample<T>(0.5);
         int size = 0;
-        ASSERT_EQ(pxliFilterBoxBorderGetBufferSize(roi, mask, typeOf<T>(), N, &size), pxlStatusOk);
+        ASSERT_EQ(pxliFilterBoxBorderGetBufferSize(roi, mask, pxltest::typeCode<T>(), N, &size), pxlStatusOk);
         GuardedBuffer work(size, 1, 0, 64, 1);
 
         GuardedImage<T> dst(roi.width, roi.height, N);

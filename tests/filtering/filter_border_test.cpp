@@ -18,14 +18,6 @@ using pxltest::Rng;
 
 constexpr int kMargin = 8;  // readable source pixels around every region
 
-template <class T> PxlDataType dataTypeOf()
-{
-    if constexpr (std::is_same_v<T, Pxl8u>) return pxlDt8u;
-    else if constexpr (std::is_same_v<T, Pxl16u>) return pxlDt16u;
-    else if constexpr (std::is_same_v<T, Pxl16s>) return pxlDt16s;
-    else return pxlDt32f;
-}
-
 template <class T, int N> PxlStatus callFilter(const T* s, int ss, T* d, int ds, PxliSize roi, PxliBorderMode b, const T* v,
                                                const PxliFilterBorderSpec* spec, Pxl8u* buf)
 {
@@ -171,7 +163,7 @@ template <class T, int N> void runModelCases(int cases, uint64_t seed)
         Kernel k{kern.width, kern.height, false, {}, {}};
         const bool intTaps = rng.chance(0.5);
         k.mode = rng.uniformInt(0, 2);
-        const PxlDataType dt = dataTypeOf<T>();
+        const PxlDataType dt = pxltest::typeCode<T>();
         int specSize = 0, bufSize = 0;
         ASSERT_EQ(pxliFilterBorderGetSize(kern, roi, dt, intTaps ? pxlDt16s : pxlDt32f, N, &specSize, &bufSize), pxlStatusOk);
         Spec spec(specSize);

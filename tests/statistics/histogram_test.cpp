@@ -12,14 +12,6 @@ using namespace pxltest;
 
 namespace {
 
-template <class T> constexpr PxlDataType typeCode()
-{
-    if constexpr (std::is_same_v<T, Pxl8u>) return pxlDt8u;
-    else if constexpr (std::is_same_v<T, Pxl16u>) return pxlDt16u;
-    else if constexpr (std::is_same_v<T, Pxl16s>) return pxlDt16s;
-    else return pxlDt32f;
-}
-
 template <class T> PxlStatus histogramCall(int n, const T* s, int ss, PxliSize r, Pxl32s* const* h, const PxliHistogramSpec* sp, Pxl8u* b);
 #define PXLT_HIST(T, t)                                                                                                        \
     template <>                                                                                                                \
@@ -121,7 +113,7 @@ TYPED_TEST_SUITE(Histograms, HistogramTypes);
 TYPED_TEST(Histograms, UniformAndCustomLevelsMatchTheModel)
 {
     using T = TypeParam;
-    constexpr PxlDataType type = typeCode<T>();
+    constexpr PxlDataType type = pxltest::typeCode<T>();
     constexpr bool isFloat = std::is_same_v<T, Pxl32f>;
     Rng rng;
     const double lowest = isFloat ? -1e4 : double(std::numeric_limits<T>::lowest());
@@ -168,7 +160,7 @@ TYPED_TEST(Histograms, UniformAndCustomLevelsMatchTheModel)
 TYPED_TEST(Histograms, CheckOrders)
 {
     using T = TypeParam;
-    constexpr PxlDataType type = typeCode<T>();
+    constexpr PxlDataType type = pxltest::typeCode<T>();
     constexpr bool isFloat = std::is_same_v<T, Pxl32f>;
     GuardedImage<T> img(5, 3, 3);
     const std::vector<int> counts{4, 4, 4};

@@ -32,6 +32,15 @@ template <> constexpr const char* token<Pxl32s>() { return "32s"; }
 template <> constexpr const char* token<Pxl32f>() { return "32f"; }
 template <> constexpr const char* token<Pxl64f>() { return "64f"; }
 
+// The run-time type code of the types that take one (8u, 16u, 16s, 32f).
+template <class T> constexpr PxlDataType typeCode()
+{
+    if constexpr (std::is_same_v<T, Pxl8u>) return pxlDt8u;
+    else if constexpr (std::is_same_v<T, Pxl16u>) return pxlDt16u;
+    else if constexpr (std::is_same_v<T, Pxl16s>) return pxlDt16s;
+    else return pxlDt32f;
+}
+
 // The values each type's kernels most often get wrong.
 template <class T> std::vector<T> extremes()
 {
