@@ -70,6 +70,10 @@ PxlStatus pxliFilterBoxBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* p
 PxlStatus pxliFilterBoxBorder_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
 PxlStatus pxliFilterBoxBorder_16s_C4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[4], Pxl8u* pBuffer);
 PxlStatus pxliFilterBoxBorder_16s_AC4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl32f* pBorderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl32f pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl32f pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterBoxBorder_32f_AC4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl32f pBorderValue[3], Pxl8u* pBuffer);
 
 /* The 64f box mean with no border: dst(x, y) = the mean of the maskSize window starting anchor.x
  * left and anchor.y above the pixel (the caller's buffer holds those pixels). The sums run as

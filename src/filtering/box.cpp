@@ -151,6 +151,210 @@ void boxInOrder(const T* win, int winStep, int width, int height, int kw, int kh
 
 }  // namespace
 
+// Floating-point means, whose sums depend on the order of their additions. Along each window row
+// a running sum: the first kw - 1 samples added in order, then for each pixel plus the incoming
+// sample (the window's row sum) and minus the outgoing one. Down the rows the same: the vertical
+// sum starts as the first kh row sums added in order, and for each further output row it loses
+// the row sum that leaves and gains the one that enters. The mean is 1 / (kw * kh) times the sum.
+//
+// Where to keep the row sums: `vertical` is one row for the vertical sums (null: they are carried
+// in the output rows, which then must be plain rows of N == P samples a pixel); the rows of the
+// two spans, where there are at least kh + 1 of them, hold the row sums of the window rows still
+// needed, made a few window rows at a time; with fewer, each row sum is made again for its second
+// use, and no memory but the vertical row is needed.
+template <class T> struct FloatWork {
+    T* vertical = nullptr;
+    T* spans[2] = {};
+    int64_t bytes[2] = {};
+};
+
+// Running row sums of R rows at once, which the processor can overlap, P channels each of N
+// samples to a pixel: sums go out P samples a pixel, packed. The state carries from call to call.
+template <class T, int N, int P, int R> struct RowRuns {
+    const T* src[R];
+    T sum[R][P];
+    RowRuns(const T* const* rows, int kw)
+    {
+        for (int r = 0; r < R; ++r) {
+            src[r] = rows[r];
+            for (int c = 0; c < P; ++c) sum[r][c] = 0;
+        }
+        for (int k = 0; k < kw - 1; ++k)
+            for (int r = 0; r < R; ++r)
+                for (int c = 0; c < P; ++c) sum[r][c] += src[r][k * N + c];
+    }
+    void next(T* const* out, int len, int kw)
+    {
+        const std::ptrdiff_t ahead = std::ptrdiff_t{kw - 1} * N;
+        const T* s[R];
+        T* o[R];
+        T acc[R][P];
+        for (int r = 0; r < R; ++r) {
+            s[r] = src[r];
+            o[r] = out[r];
+            for (int c = 0; c < P; ++c) acc[r][c] = sum[r][c];
+        }
+        for (int x = 0; x < len; ++x) {
+            for (int r = 0; r < R; ++r) {
+                for (int c = 0; c < P; ++c) {
+                    acc[r][c] += s[r][ahead + c];
+                    o[r][x * P + c] = acc[r][c];
+                    acc[r][c] -= s[r][c];
+                }
+                s[r] += N;
+            }
+        }
+        for (int r = 0; r < R; ++r) {
+            src[r] = s[r];
+            for (int c = 0; c < P; ++c) sum[r][c] = acc[r][c];
+        }
+    }
+};
+
+// Enough rows at once to keep the adder busy: about eight running sums in flight.
+template <int P> constexpr int kRowsAtOnce = P == 1 ? 8 : P == 3 ? 4 : 2;
+
+// The whole row sums of `count` rows.
+template <class T, int N, int P> void rowSums(const T* const* src, T* const* out, int count, int width, int kw)
+{
+    constexpr int R = kRowsAtOnce<P>;
+    int r = 0;
+    for (; r + R <= count; r += R) RowRuns<T, N, P, R>(src + r, kw).next(out + r, width, kw);
+    if constexpr (R >= 4) {
+        if (r + 4 <= count) {
+            RowRuns<T, N, P, 4>(src + r, kw).next(out + r, width, kw);
+            r += 4;
+        }
+    }
+    if (r + 2 <= count) {
+        RowRuns<T, N, P, 2>(src + r, kw).next(out + r, width, kw);
+        r += 2;
+    }
+    if (r < count) RowRuns<T, N, P, 1>(src + r, kw).next(out + r, width, kw);
+}
+
+// out = inv * v, pixel by pixel: v has P samples a pixel, out N.
+template <class T, int N, int P> void scaleOut(const T* v, T* out, int width, T inv)
+{
+    if constexpr (N == P) {
+        for (int j = 0; j < width * P; ++j) out[j] = inv * v[j];
+    } else {
+        for (int x = 0; x < width; ++x)
+            for (int c = 0; c < P; ++c) out[x * N + c] = inv * v[x * P + c];
+    }
+}
+
+// The vertical sum of the next row: the row sum `leaving` out, `entering` in.
+template <class T> void slide(const T* prev, T* next, const T* leaving, const T* entering, int n)
+{
+    for (int j = 0; j < n; ++j) next[j] = (prev[j] - leaving[j]) + entering[j];
+}
+
+template <class T> void accumulate(T* v, const T* h, int n)
+{
+    for (int j = 0; j < n; ++j) v[j] += h[j];
+}
+
+// One piece of floating-point means; emit(y) gives where output row y goes, and is asked only
+// once the window rows above row y + 1's window have been read.
+template <class T, int N, int P, class Emit>
+void boxFloat(const T* win, int winStep, int width, int height, int kw, int kh, T inv, const FloatWork<T>& work, Emit emit)
+{
+    const int n = width * P;
+    auto src = [&](int r) { return rowAt(win, winStep, r); };
+    const int64_t rowBytes = int64_t{n} * static_cast<int64_t>(sizeof(T));
+    const int spare0 = static_cast<int>(work.bytes[0] / rowBytes), spare = spare0 + static_cast<int>(work.bytes[1] / rowBytes);
+    auto spareRow = [&](int i) { return i < spare0 ? work.spans[0] + std::ptrdiff_t{i} * n : work.spans[1] + std::ptrdiff_t{i - spare0} * n; };
+
+    if (kh == 1) {
+        // One row high: the row sums alone, several rows at a time where there is room for them.
+        const int room = std::min(kRowsAtOnce<P>, spare + (work.vertical ? 1 : 0));
+        for (int y = 0; y < height;) {
+            const int count = std::max(1, std::min(room, height - y));
+            const T* rows[8];
+            T* sums[8];
+            for (int i = 0; i < count; ++i) {
+                rows[i] = src(y + i);
+                sums[i] = room == 0 ? emit(y + i) : i < spare ? spareRow(i) : work.vertical;
+            }
+            rowSums<T, N, P>(rows, sums, count, width, kw);
+            for (int i = 0; i < count; ++i) {
+                T* out = room == 0 ? sums[i] : emit(y + i);
+                scaleOut<T, N, P>(sums[i], out, width, inv);
+            }
+            y += count;
+        }
+        return;
+    }
+
+    if (work.vertical && spare >= kh + 1) {
+        // Row sums kept in the spare rows, sum r in row r % spare, made ahead a few at a time.
+        const int total = height + kh - 1;
+        int ready = 0;
+        auto makeUpTo = [&](int upto, int oldest) {
+            while (ready < upto) {
+                const int count = std::min({8, spare - (ready - oldest), total - ready});
+                const T* rows[8];
+                T* sums[8];
+                for (int i = 0; i < count; ++i) {
+                    rows[i] = src(ready + i);
+                    sums[i] = spareRow((ready + i) % spare);
+                }
+                rowSums<T, N, P>(rows, sums, count, width, kw);
+                ready += count;
+            }
+        };
+        auto sumOf = [&](int r) { return spareRow(r % spare); };
+        T* v = work.vertical;
+        makeUpTo(kh, 0);
+        std::fill_n(v, n, T{0});
+        for (int i = 0; i < kh; ++i) accumulate(v, sumOf(i), n);
+        scaleOut<T, N, P>(v, emit(0), width, inv);
+        for (int y = 1; y < height; ++y) {
+            makeUpTo(y + kh, y - 1);
+            slide(v, v, sumOf(y - 1), sumOf(y - 1 + kh), n);
+            scaleOut<T, N, P>(v, emit(y), width, inv);
+        }
+        return;
+    }
+
+    // Each row sum made twice, a stretch of columns at a time, two rows at once.
+    constexpr int kStretch = 256;
+    T made[2][kStretch * P];
+    T* const pair[2] = {made[0], made[1]};
+    auto vertical = [&](int y) { return work.vertical ? work.vertical : emit(y); };
+    T* v = vertical(0);
+    std::fill_n(v, n, T{0});
+    for (int i = 0; i < kh; i += 2) {
+        const T* rows[2] = {src(i), src(std::min(i + 1, kh - 1))};
+        RowRuns<T, N, P, 2> run(rows, kw);
+        for (int x0 = 0; x0 < width; x0 += kStretch) {
+            const int len = std::min(kStretch, width - x0);
+            run.next(pair, len, kw);
+            accumulate(v + x0 * P, made[0], len * P);
+            if (i + 1 < kh) accumulate(v + x0 * P, made[1], len * P);
+        }
+    }
+    if (work.vertical) scaleOut<T, N, P>(v, emit(0), width, inv);
+    for (int y = 1; y < height; ++y) {
+        const T* rows[2] = {src(y - 1), src(y - 1 + kh)};
+        RowRuns<T, N, P, 2> run(rows, kw);
+        T* prev = vertical(y - 1);
+        T* next = vertical(y);
+        for (int x0 = 0; x0 < width; x0 += kStretch) {
+            const int len = std::min(kStretch, width - x0);
+            run.next(pair, len, kw);
+            slide(prev + x0 * P, next + x0 * P, made[0], made[1], len * P);
+        }
+        if (work.vertical) scaleOut<T, N, P>(v, emit(y), width, inv);
+        else scaleOut<T, N, P>(prev, prev, width, inv);
+    }
+    if (!work.vertical) {
+        T* last = emit(height - 1);
+        scaleOut<T, N, P>(last, last, width, inv);
+    }
+}
+
 PxlStatus filterBoxBorderGetBufferSize(PxliSize roi, PxliSize mask, PxlDataType dataType, int numChannels, int* pBufferSize)
 {
     // Checks: the result pointer, the region, the mask, the type, the channels, a size beyond 32 bits.
@@ -189,11 +393,14 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
     auto* columns = reinterpret_cast<int32_t*>(base + areas.strips);
     Pxl8u* slots = base + areas.strips + areas.columns;
 
-    const bool exact = largestMagnitude<T>() * kw * kh < 0x1p24;
     // The kernel of one piece, writing output row y where emit(y) says.
+    FloatWork<T> work;
+    const float invFloat = 1.0f / (static_cast<float>(kh) * static_cast<float>(kw));
+    const bool exact = largestMagnitude<T>() * kw * kh < 0x1p24;
     const bool narrow = std::is_same_v<T, Pxl8u> && 255 * kw * kh <= 65535;
     auto piece = [&](const T* win, int winStep, int width, int height, auto emit) {
-        if (narrow) boxExact<T, N, P>(win, winStep, width, height, kw, kh, inv, reinterpret_cast<uint16_t*>(columns), emit);
+        if constexpr (std::is_floating_point_v<T>) boxFloat<T, N, P>(win, winStep, width, height, kw, kh, invFloat, work, emit);
+        else if (narrow) boxExact<T, N, P>(win, winStep, width, height, kw, kh, inv, reinterpret_cast<uint16_t*>(columns), emit);
         else if (exact) boxExact<T, N, P>(win, winStep, width, height, kw, kh, inv, columns, emit);
         else boxInOrder<T, N, P>(win, winStep, width, height, kw, kh, inv, reinterpret_cast<float*>(columns), emit);
     };
@@ -202,8 +409,27 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
     };
     // Frames carry whole pixels; the fourth sample of AC4 is copied along and never written.
     using Frames = std::conditional_t<L::hasAlpha, C4, L>;
+    const bool floating = std::is_floating_point_v<T>;
+    const Sides sides = floating ? Sides::Apart : Sides::Merged;
+    if constexpr (std::is_floating_point_v<T>) {
+        // A 1x1 mask copies; other float means keep their vertical sums in the column area and
+        // their row sums in whatever the frames leave free.
+        if (kw == 1 && kh == 1) {
+            if (pSrc != pDst)
+                for (int y = 0; y < roi.height; ++y) krnCopyPixels<T, L>(rowAt(pSrc, srcStep, y), rowAt(pDst, dstStep, y), roi.width);
+            return pxlStatusOk;
+        }
+        const int64_t framed = frameRoom<T, Frames>(roi, w, border, sides, pSrc == pDst);
+        work.vertical = reinterpret_cast<T*>(columns);
+        work.spans[0] = reinterpret_cast<T*>(strips + framed);
+        work.bytes[0] = areas.strips - framed;
+        if (pSrc != pDst && framed > 0) {
+            work.spans[1] = reinterpret_cast<T*>(slots);
+            work.bytes[1] = areas.slots;
+        }
+    }
     if (pSrc != pDst) {
-        filterStrips<T, Frames>(pSrc, srcStep, pDst, dstStep, roi, w, border, pBorderValue, strips, slots, rows);
+        filterStrips<T, Frames>(pSrc, srcStep, pDst, dstStep, roi, w, border, pBorderValue, strips, slots, rows, sides);
         return pxlStatusOk;
     }
     // In place: each output row waits in one of ay + 1 slots until no later row reads the image row
@@ -219,17 +445,13 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
         });
         for (int y = std::max(0, height - count); y < height; ++y) flush(y);
     };
-    filterStripsInPlace<T, Frames>(pDst, dstStep, roi, w, border, pBorderValue, strips, slots, rows, inPlace);
+    filterStripsInPlace<T, Frames>(pDst, dstStep, roi, w, border, pBorderValue, strips, slots, rows, inPlace, sides);
     return pxlStatusOk;
 }
 
 // The 64f mean with no border: the caller's buffer holds the window's pixels around the region.
-// Horizontal window sums run along each source row: the first kw - 1 samples summed in order,
-// then for each pixel plus the incoming sample (the window's sum) and minus the outgoing one. The
-// vertical sums run down the rows the same way, carried in the destination itself: row y + 1
-// starts as row y's sum minus the leaving row's window sums plus the entering row's, and row y is
-// then scaled by 1 / (kw * kh). A window sum is made again where it is needed a second time, by
-// the same additions, so no buffer is needed.
+// With no work buffer, each window sum is made again where it is needed a second time, and the
+// vertical sums are carried in the destination rows.
 PxlStatus filterBox64f(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize roi, PxliSize mask, PxliPoint anchor)
 {
     // Checks: pointers, sizes, steps.
@@ -240,39 +462,7 @@ PxlStatus filterBox64f(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstSte
 
     const double inv = 1.0 / (static_cast<double>(kw) * kh);
     const Pxl64f* win = rowAt(pSrc, srcStep, -anchor.y) - anchor.x;
-    // Applies the window sums of source row r to destination row d: apply(d[x], sum).
-    auto rowSums = [&](int r, Pxl64f* d, auto apply) {
-        const Pxl64f* s = rowAt(win, srcStep, r);
-        double sum = 0;
-        for (int k = 0; k < kw - 1; ++k) sum += s[k];
-        for (int x = 0; x < W; ++x) {
-            sum += s[x + kw - 1];
-            apply(d[x], sum);
-            sum -= s[x];
-        }
-    };
-    auto add = [](double& v, double h) { v += h; };
-    auto subtract = [](double& v, double h) { v -= h; };
-    if (kh == 1) {
-        // One row high: the horizontal window alone.
-        for (int y = 0; y < H; ++y) {
-            Pxl64f* d = rowAt(pDst, dstStep, y);
-            rowSums(y, d, [inv](double& v, double h) { v = inv * h; });
-        }
-        return pxlStatusOk;
-    }
-    std::fill_n(pDst, W, 0.0);
-    for (int i = 0; i < kh; ++i) rowSums(i, pDst, add);
-    for (int y = 0; y < H; ++y) {
-        Pxl64f* d = rowAt(pDst, dstStep, y);
-        if (y + 1 < H) {
-            Pxl64f* next = rowAt(pDst, dstStep, y + 1);
-            std::copy_n(d, W, next);
-            rowSums(y, next, subtract);
-            rowSums(y + kh, next, add);
-        }
-        for (int x = 0; x < W; ++x) d[x] *= inv;
-    }
+    boxFloat<Pxl64f, 1, 1>(win, srcStep, W, H, kw, kh, inv, FloatWork<Pxl64f>{}, [&](int y) { return rowAt(pDst, dstStep, y); });
     return pxlStatusOk;
 }
 

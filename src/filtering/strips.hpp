@@ -13,6 +13,7 @@
 #include "exchange/border.hpp"
 #include "frame/image.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -56,69 +57,64 @@ struct Piece {
     int sx, sy, sw, sh, fw, fh, top, left;
 };
 
-// The pieces of a region in the order they run: the whole region on the source when every side
-// lies in memory; one frame of the extended region when the mask is not smaller than it; else
-// the top and bottom strips (whole width), the left and right strips of the rows between, and
-// the rest on the source.
+// The pieces of a region: the whole region on the source when every side lies in memory; one
+// frame of the extended region when the mask is not smaller than it; else the top and bottom
+// strips (whole width), the left and right strips of the rows between, and the centre on the
+// source.
 struct Plan {
     Piece pieces[5];
     int count = 0;
     bool whole = false;  // one frame of the whole extended region
 };
 
-inline Plan planPieces(PxliSize roi, Window w, PxliBorderMode border)
+// What becomes of a side whose memory flag is set. Where every pixel's result is its own, the
+// side simply joins the centre (fewer, larger pieces). Where results depend on where a piece's
+// running sums start, every side is a piece of its own, framed like the others but with the
+// caller's pixels on its flagged side (its corners may still need the border kind).
+enum class Sides { Merged, Apart };
+
+inline Plan planPieces(PxliSize roi, Window w, PxliBorderMode border, Sides sides = Sides::Merged)
 {
     constexpr int kTop = pxlBorderMemTop, kBottom = pxlBorderMemBottom, kLeft = pxlBorderMemLeft, kRight = pxlBorderMemRight;
-    const int W = roi.width, H = roi.height, kind = border & 15;
+    const int W = roi.width, H = roi.height, f = border & pxlBorderMemAll;
     const bool inStrips = w.width < W && w.height < H;
     Plan plan;
     auto add = [&plan](Piece p) { plan.pieces[plan.count++] = p; };
-
-    // Output columns done by the right strip, rows by the bottom one.
-    int rx = w.right, ry = w.bottom;
-    if (inStrips && kind == pxlBorderMirror) {
-        if (w.width == 2) rx = 2;
-        if (w.height == 2) ry = 2;
-    }
-    int f = border & pxlBorderMemAll;
-    if (w.left == 0) f |= kLeft | (rx == 0 ? kRight : 0);
-    if (w.top == 0) f |= kTop | (ry == 0 ? kBottom : 0);
-    if (f == pxlBorderMemAll) {
-        add({0, 0, W, H, false, 0, 0, 0, 0, 0, 0, 0, 0});
+    auto onSource = [](int x, int y, int width, int height) { return Piece{x, y, width, height, false, 0, 0, 0, 0, 0, 0, 0, 0}; };
+    // The windows of an output rectangle as a frame: the part of it inside the region, or beyond
+    // the region on a side whose memory flag is set, is copied; the border kind makes the rest.
+    auto framed = [&](int x, int y, int width, int height) {
+        const int wx0 = x - w.left, wx1 = x + width + w.right, wy0 = y - w.top, wy1 = y + height + w.bottom;
+        const int sx0 = f & kLeft ? wx0 : std::max(wx0, 0), sx1 = f & kRight ? wx1 : std::min(wx1, W);
+        const int sy0 = f & kTop ? wy0 : std::max(wy0, 0), sy1 = f & kBottom ? wy1 : std::min(wy1, H);
+        return Piece{x, y, width, height, true, sx0, sy0, sx1 - sx0, sy1 - sy0, wx1 - wx0, wy1 - wy0, sy0 - wy0, sx0 - wx0};
+    };
+    if (!inStrips || (f == pxlBorderMemAll && sides == Sides::Merged)) {
+        // The whole region: on the source when its windows lie in memory, else one frame.
+        if (f == pxlBorderMemAll) {
+            add(onSource(0, 0, W, H));
+        } else {
+            add(framed(0, 0, W, H));
+            plan.whole = true;
+        }
         return plan;
     }
-    // Columns of source memory on each side, where the flags say the caller's buffer holds them.
-    const int x0 = f & kLeft ? -w.left : 0, x1 = f & kRight ? W + w.right : W, left = f & kLeft ? 0 : w.left;
-    const int fw = W + w.width - 1;
-    if (!inStrips) {
-        const int y0 = f & kTop ? -w.top : 0, y1 = f & kBottom ? H + w.bottom : H;
-        add({0, 0, W, H, true, x0, y0, x1 - x0, y1 - y0, fw, H + w.height - 1, f & kTop ? 0 : w.top, left});
-        plan.whole = true;
-        return plan;
-    }
-    int top = 0, bottom = H;  // output rows left for the side strips and the rest
-    if (!(f & kTop)) {
-        add({0, 0, W, w.top, true, x0, 0, x1 - x0, w.height - 1, fw, w.height - 1 + w.top, w.top, left});
-        top = w.top;
-    }
-    if (!(f & kBottom)) {
-        const int real = ry + w.top;  // source rows of the strip: those of its windows inside the image
-        add({0, H - ry, W, ry, true, x0, H - real, x1 - x0, real, fw, real + w.bottom, 0, left});
-        bottom = H - ry;
-    }
-    const int h = bottom - top;
-    if (h <= 0) return plan;
-    int first = 0, last = W;
-    if (!(f & kLeft)) {
-        add({0, top, w.left, h, true, 0, top - w.top, w.width - 1, h + w.height - 1, w.width - 1 + w.left, h + w.height - 1, 0, w.left});
-        first = w.left;
-    }
-    if (!(f & kRight)) {
-        const int real = rx + w.left;
-        add({W - rx, top, rx, h, true, W - real, top - w.top, real, h + w.height - 1, real + w.right, h + w.height - 1, 0, 0});
-        last = W - rx;
-    }
-    if (last > first) add({first, top, last - first, h, false, 0, 0, 0, 0, 0, 0, 0, 0});
+    // Output columns done by the right strip, rows by the bottom one: a mask 2 wide (or high)
+    // mirrored takes 2, so that the border reflects about a real pixel.
+    const bool mirror = (border & 15) == pxlBorderMirror;
+    const int rx = mirror && w.width == 2 && !(f & kRight) ? 2 : w.right, ry = mirror && w.height == 2 && !(f & kBottom) ? 2 : w.bottom;
+    // A side merged with the centre, or with no output of its own.
+    const bool merged = sides == Sides::Merged;
+    const bool top = w.top == 0 || (merged && f & kTop), bottom = ry == 0 || (merged && f & kBottom);
+    const bool left = w.left == 0 || (merged && f & kLeft), right = rx == 0 || (merged && f & kRight);
+    if (!top) add(framed(0, 0, W, w.top));
+    if (!bottom) add(framed(0, H - ry, W, ry));
+    const int y0 = top ? 0 : w.top, y1 = bottom ? H : H - ry;
+    if (y1 <= y0) return plan;
+    if (!left) add(framed(0, y0, w.left, y1 - y0));
+    if (!right) add(framed(W - rx, y0, rx, y1 - y0));
+    const int x0 = left ? 0 : w.left, x1 = right ? W : W - rx;
+    if (x1 > x0) add(onSource(x0, y0, x1 - x0, y1 - y0));
     return plan;
 }
 
@@ -134,8 +130,24 @@ template <class S, class L> struct PieceIo {
                                  {p.fw, p.fh}, p.top, p.left, kind, value ? asBits(value) : nullptr);
         return step;
     }
-    static int64_t frameBytes(const Piece& p) { return ((int64_t{p.fw} * p.fh * N * static_cast<int>(sizeof(S))) + 7) & ~int64_t{7}; }
+    // Frames lie end to end: each keeps the alignment of its samples, and the rooms of a work
+    // buffer hold all four strips with not a sample to spare.
+    static int64_t frameBytes(const Piece& p) { return int64_t{p.fw} * p.fh * N * static_cast<int64_t>(sizeof(S)); }
 };
+
+// Bytes of strip area the frames of a region take: the largest frame, as they are made one at a
+// time, or all of them when they are all made first (in place); none when the whole extended
+// region is the one frame, which has an area of its own.
+template <class S, class L> int64_t frameRoom(PxliSize roi, Window w, PxliBorderMode border, Sides sides, bool all)
+{
+    const Plan plan = planPieces(roi, w, border, sides);
+    int64_t room = 0;
+    for (int i = 0; i < plan.count && !plan.whole; ++i) {
+        const int64_t bytes = plan.pieces[i].framed ? PieceIo<S, L>::frameBytes(plan.pieces[i]) : 0;
+        room = all ? room + bytes : std::max(room, bytes);
+    }
+    return room;
+}
 
 // Runs `rows(window, windowStep, out, outStep, width, height)` over the whole region, on the source
 // where the windows lie in memory and on frames elsewhere: strips at `strips` (one at a time), the
@@ -143,10 +155,10 @@ template <class S, class L> struct PieceIo {
 // `value` one sample per channel for the constant kind. The border word has been checked.
 template <class S, class L, class D, class Rows>
 void filterStrips(const S* src, int srcStep, D* dst, int dstStep, PxliSize roi, Window w, PxliBorderMode border, const S* value,
-                  Pxl8u* strips, Pxl8u* whole, const Rows& rows)
+                  Pxl8u* strips, Pxl8u* whole, const Rows& rows, Sides sides = Sides::Merged)
 {
     using Io = PieceIo<S, L>;
-    const Plan plan = planPieces(roi, w, border);
+    const Plan plan = planPieces(roi, w, border, sides);
     for (int i = 0; i < plan.count; ++i) {
         const Piece& p = plan.pieces[i];
         D* out = Io::at(dst, dstStep, p.x, p.y);
@@ -166,10 +178,10 @@ void filterStrips(const S* src, int srcStep, D* dst, int dstStep, PxliSize roi, 
 // than the image rows it still reads allow; then the framed pieces run.
 template <class S, class L, class Rows, class InPlace>
 void filterStripsInPlace(S* img, int step, PxliSize roi, Window w, PxliBorderMode border, const S* value, Pxl8u* rooms, Pxl8u* whole,
-                         const Rows& rows, const InPlace& inPlace)
+                         const Rows& rows, const InPlace& inPlace, Sides sides = Sides::Merged)
 {
     using Io = PieceIo<S, L>;
-    const Plan plan = planPieces(roi, w, border);
+    const Plan plan = planPieces(roi, w, border, sides);
     Pxl8u* frames[5];
     int steps[5];
     for (int i = 0; i < plan.count; ++i) {

@@ -1,5 +1,6 @@
-// The box filter against the mean of its rule: the exact sum of the extended neighbourhood, times
-// 1 / (kw * kh) in float, rounded half up (16s: halves away from zero); in place against not.
+// The box filter against the mean of its rule: for integers the exact sum of the extended
+// neighbourhood, times 1 / (kw * kh) in float, rounded half up (16s: halves away from zero); for
+// 32f the running sums of the rule, piece by piece; in place against not.
 #include "extension_model.hpp"
 #include "pxltest.hpp"
 
@@ -26,6 +27,7 @@ PxlStatus callBox(const T* s, int ss, T* d, int ds, PxliSize roi, PxliSize mask,
     PXL_BOX(8u, Pxl8u)
     PXL_BOX(16u, Pxl16u)
     PXL_BOX(16s, Pxl16s)
+    PXL_BOX(32f, Pxl32f)
 #undef PXL_BOX
 }
 
@@ -34,6 +36,55 @@ template <class T> T mean(int64_t sum, PxliSize mask)
 {
     const float inv = 1.0f / static_cast<float>(mask.width * mask.height), v = inv * static_cast<float>(sum);
     return static_cast<T>(static_cast<int32_t>(sum >= 0 ? v + 0.5f : v - 0.5f));
+}
+
+// The output rectangles whose running sums start afresh: the centre, whose windows lie in the
+// image, and the top and bottom strips (whole width) and left and right strips around it, or the
+// whole region when the mask is not smaller than it. A mirrored mask 2 wide (high) leaves 2
+// columns (rows) to an unflagged right (bottom) strip.
+struct Rect {
+    int x, y, w, h;
+};
+std::vector<Rect> floatPieces(PxliSize roi, PxliSize mask, int border)
+{
+    const int W = roi.width, H = roi.height, kw = mask.width, kh = mask.height, ax = (kw - 1) / 2, ay = (kh - 1) / 2;
+    if (!(W > kw && H > kh)) return {{0, 0, W, H}};
+    const bool mirror = (border & 15) == pxlBorderMirror;
+    const int rx = mirror && kw == 2 && !(border & pxlBorderMemRight) ? 2 : kw - 1 - ax;
+    const int ry = mirror && kh == 2 && !(border & pxlBorderMemBottom) ? 2 : kh - 1 - ay;
+    const int cw = W - ax - rx, ch = H - ay - ry;
+    return {{ax, ay, cw, ch}, {0, 0, W, ay}, {0, H - ry, W, ry}, {0, ay, ax, ch}, {W - rx, ay, rx, ch}};
+}
+
+// The 32f mean of output sample (x, y, c): in the piece that holds it, row sums run along each
+// window row from the piece's first window (the first kw - 1 samples in order, then plus the
+// incoming sample, minus the outgoing), and the vertical sum runs down them the same way.
+template <class T, class E> T floatMean(const E& ext, PxliSize roi, PxliSize mask, int border, int x, int y, int c)
+{
+    const int kw = mask.width, kh = mask.height;
+    if (kw == 1 && kh == 1) return ext(x, y, c);
+    Rect p{};
+    for (const Rect& r : floatPieces(roi, mask, border))
+        if (x >= r.x && x < r.x + r.w && y >= r.y && y < r.y + r.h) p = r;
+    const int ox = p.x - (kw - 1) / 2, oy = p.y - (kh - 1) / 2, i = x - p.x, j = y - p.y;
+    auto rowSum = [&](int r) {
+        float s = 0;
+        for (int k = 0; k < kw - 1; ++k) s += ext(ox + k, oy + r, c);
+        for (int t = 0;; ++t) {
+            s += ext(ox + t + kw - 1, oy + r, c);
+            if (t == i) return s;
+            s -= ext(ox + t, oy + r, c);
+        }
+    };
+    const float inv = 1.0f / (static_cast<float>(kh) * static_cast<float>(kw));
+    if (kh == 1) return inv * rowSum(j);
+    float v = 0;
+    for (int q = 0; q < kh - 1; ++q) v += rowSum(q);
+    for (int t = 0;; ++t) {
+        v += rowSum(t + kh - 1);
+        if (t == j) return inv * v;
+        v -= rowSum(t);
+    }
 }
 
 // Random regions, masks, kinds and flags, out of place and in place; N samples to a pixel, the
@@ -53,9 +104,9 @@ template <class T, int N, bool Alpha> void boxCases(int cases, uint64_t seed, in
         GuardedImage<T> img(roi.width + 2 * kMargin, roi.height + 2 * kMargin, N);
         for (int y = 0; y < img.height(); ++y)
             for (int i = 0; i < img.samplesPerRow(); ++i)
-                img.row(y)[i] = largestSample ? static_cast<T>(rng.uniformInt(0, largestSample)) : rng.sample<T>(0.3);
+                img.row(y)[i] = largestSample ? static_cast<T>(rng.uniformInt(0, largestSample)) : rng.sample<T>(0.3, false);
         T value[4];
-        for (T& v : value) v = rng.sample<T>(0.5);
+        for (T& v : value) v = rng.sample<T>(0.5, false);
         int size = 0;
         ASSERT_EQ(pxliFilterBoxBorderGetBufferSize(roi, mask, pxltest::typeCode<T>(), N, &size), pxlStatusOk);
         GuardedBuffer work(size, 1, 0, 64, 1);
@@ -69,6 +120,7 @@ template <class T, int N, bool Alpha> void boxCases(int cases, uint64_t seed, in
         const int ax = (mask.width - 1) / 2, ay = (mask.height - 1) / 2;
         auto want = [&](int x, int y, int c) {
             if (c >= P) return before.at(x, y, c);
+            if constexpr (std::is_floating_point_v<T>) return floatMean<T>(ext, roi, mask, border, x, y, c);
             int64_t s = 0;
             for (int i = 0; i < mask.height; ++i)
                 for (int k = 0; k < mask.width; ++k) s += ext(x + k - ax, y + i - ay, c);
@@ -95,7 +147,7 @@ template <class T, int N, bool Alpha> void boxCases(int cases, uint64_t seed, in
                 for (int c = 0; c < N; ++c) {
                     const T got = copy.at(x, y, c);
                     const T expect = inside ? dst.at(x - kMargin, y - kMargin, c) : img.at(x, y, c);
-                    ASSERT_EQ(got, expect) << what << " in place at (" << x - kMargin << ", " << y - kMargin << ") channel " << c;
+                    ASSERT_TRUE(pxltest::sameBits(got, expect)) << what << ": got " << +got << ", want " << +expect << " in place at (" << x - kMargin << ", " << y - kMargin << ") channel " << c;
                 }
             }
     }
@@ -111,6 +163,10 @@ TEST(FilterBoxBorder, MeansOfEveryTypeAndLayout)
     boxCases<Pxl16u, 4, true>(80, 6, 0);
     boxCases<Pxl16s, 1, false>(200, 7, 0);
     boxCases<Pxl16s, 4, false>(80, 8, 0);
+    boxCases<Pxl32f, 1, false>(300, 13, 0);
+    boxCases<Pxl32f, 3, false>(100, 14, 0);
+    boxCases<Pxl32f, 4, false>(60, 15, 0);
+    boxCases<Pxl32f, 4, true>(60, 16, 0);
 }
 
 // Masks whose sums of the type's largest samples could pass 2^24 take the rule's order of 32f
