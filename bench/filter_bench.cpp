@@ -1,6 +1,6 @@
 // Neighbourhood filters on a frame (1920x1080 unless --size says otherwise): 3x3 and 5x5 binomial
 // kernels on 8u (16s taps with a divisor) and on 32f, replicated borders, against OpenCV's filter2D
-// with the same kernel and border; box filters of 8u C1 and C3 against OpenCV's blur; and a memcpy
+// with the same kernel and border; box filters of 8u and 32f, C1 and C3, against OpenCV's blur; and a memcpy
 // of the bytes read and written.
 #include "bench.hpp"
 
@@ -79,32 +79,43 @@ template <class T> void filter(int side, [[maybe_unused]] pxlbench::MatType peer
 #endif
 }
 
-// The box filter of side n on 8u, replicated borders, against OpenCV's blur.
-void box(int side, int channels, [[maybe_unused]] pxlbench::MatType peerType)
+// The box filter of side n on 8u or 32f, replicated borders, against OpenCV's blur.
+template <class T> void box(int side, int channels, [[maybe_unused]] pxlbench::MatType peerType)
 {
-    const std::string name = "FilterBoxBorder " + std::to_string(side) + "x" + std::to_string(side) + " 8u C" + std::to_string(channels) +
-                             pxlbench::sizeTag();
+    constexpr bool is8u = std::is_same_v<T, Pxl8u>;
+    const std::string name = "FilterBoxBorder " + std::to_string(side) + "x" + std::to_string(side) + (is8u ? " 8u C" : " 32f C") +
+                             std::to_string(channels) + pxlbench::sizeTag();
+    const int pixelBytes = channels * static_cast<int>(sizeof(T));
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, channels), d(W, H, channels);
+        pxlbench::Image a(W, H, pixelBytes), d(W, H, pixelBytes);
+        pxlbench::pixelValues<T>(a);
         const PxliSize roi{W, H}, mask{side, side};
         int size = 0;
-        pxliFilterBoxBorderGetBufferSize(roi, mask, pxlDt8u, channels, &size);
+        pxliFilterBoxBorderGetBufferSize(roi, mask, is8u ? pxlDt8u : pxlDt32f, channels, &size);
         std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
-        for (auto _ : s) {
-            if (channels == 1)
-                benchmark::DoNotOptimize(pxliFilterBoxBorder_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, roi, mask,
-                                                                    pxlBorderReplicate, nullptr, buffer.data()));
+        auto run = [&] {
+            if constexpr (is8u)
+                return channels == 1 ? pxliFilterBoxBorder_8u_C1R(a.as<T>(), a.step, d.as<T>(), d.step, roi, mask, pxlBorderReplicate, nullptr,
+                                                                  buffer.data())
+                                     : pxliFilterBoxBorder_8u_C3R(a.as<T>(), a.step, d.as<T>(), d.step, roi, mask, pxlBorderReplicate, nullptr,
+                                                                  buffer.data());
             else
-                benchmark::DoNotOptimize(pxliFilterBoxBorder_8u_C3R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, roi, mask,
-                                                                    pxlBorderReplicate, nullptr, buffer.data()));
+                return channels == 1 ? pxliFilterBoxBorder_32f_C1R(a.as<T>(), a.step, d.as<T>(), d.step, roi, mask, pxlBorderReplicate,
+                                                                   nullptr, buffer.data())
+                                     : pxliFilterBoxBorder_32f_C3R(a.as<T>(), a.step, d.as<T>(), d.step, roi, mask, pxlBorderReplicate,
+                                                                   nullptr, buffer.data());
+        };
+        for (auto _ : s) {
+            benchmark::DoNotOptimize(run());
             benchmark::ClobberMemory();
         }
     });
-    const std::size_t bytes = static_cast<std::size_t>(W) * H * channels;
+    const std::size_t bytes = static_cast<std::size_t>(W) * H * pixelBytes;
     pxlbench::addMemcpy(name, bytes, bytes);
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, channels), d(W, H, channels);
+        pxlbench::Image a(W, H, pixelBytes), d(W, H, pixelBytes);
+        pxlbench::pixelValues<T>(a);
         cv::Mat ma = a.mat(peerType), md = d.mat(peerType);
         for (auto _ : s) {
             cv::blur(ma, md, cv::Size(side, side), cv::Point(-1, -1), cv::BORDER_REPLICATE);
@@ -117,8 +128,10 @@ void box(int side, int channels, [[maybe_unused]] pxlbench::MatType peerType)
 void filterBenchmarks()
 {
     for (int side : {3, 5, 15}) {
-        box(side, 1, pxlbench::k8uC1);
-        box(side, 3, pxlbench::k8uC3);
+        box<Pxl8u>(side, 1, pxlbench::k8uC1);
+        box<Pxl8u>(side, 3, pxlbench::k8uC3);
+        box<Pxl32f>(side, 1, pxlbench::k32fC1);
+        box<Pxl32f>(side, 3, pxlbench::k32fC3);
     }
     for (int side : {3, 5}) {
         filter<Pxl8u>(side, pxlbench::k8uC1);

@@ -56,14 +56,44 @@ template <class T> inline T boxMean(float s, float inv)
     else return static_cast<T>(static_cast<int32_t>(inv * s + 0.5f));
 }
 
+// Samples of a row whose window sums are made at a time: whole pixels and whole vectors.
+template <int N> constexpr int kSumChunk = 256 * (N == 1 ? 4 : N);
+
 // Window sums along a row of column sums whose pixels are N samples apart, exact:
-// sums[j] = col[j] + col[j + N] + ... + col[j + (kw - 1) N], for len samples.
+// sums[j] = col[j] + col[j + N] + ... + col[j + (KW - 1) N], for len samples (at most kSumChunk<N>).
+// Narrow windows add their columns; a wider one is cut into B groups of G columns and R columns
+// left over: the group sums are made once, and each window adds B of them and the R columns
+// (15 columns: 4 + 4 additions a sample instead of 14).
+template <int KW> constexpr int groupWidth()
+{
+    int best = 1, cost = KW;
+    for (int g = 2; g <= 8; ++g)
+        if (g + KW / g + KW % g < cost) best = g, cost = g + KW / g + KW % g;
+    return best;
+}
 template <int KW, int N, class A> inline void windowSumsFixed(const A* col, A* sums, int len)
 {
-    for (int j = 0; j < len; ++j) {
-        A s = 0;
-        for (int k = 0; k < KW; ++k) s = static_cast<A>(s + col[j + k * N]);
-        sums[j] = s;
+    constexpr int G = groupWidth<KW>(), B = KW / G, R = KW % G;
+    if constexpr (G == 1 || KW <= 6) {
+        for (int j = 0; j < len; ++j) {
+            A s = 0;
+            for (int k = 0; k < KW; ++k) s = static_cast<A>(s + col[j + k * N]);
+            sums[j] = s;
+        }
+    } else {
+        A groups[kSumChunk<N> + 16 * N];
+        const int count = len + (B - 1) * G * N;
+        for (int i = 0; i < count; ++i) {
+            A s = 0;
+            for (int k = 0; k < G; ++k) s = static_cast<A>(s + col[i + k * N]);
+            groups[i] = s;
+        }
+        for (int j = 0; j < len; ++j) {
+            A s = 0;
+            for (int m = 0; m < B; ++m) s = static_cast<A>(s + groups[j + m * G * N]);
+            for (int k = 0; k < R; ++k) s = static_cast<A>(s + col[j + (B * G + k) * N]);
+            sums[j] = s;
+        }
     }
 }
 template <int N, class A> void windowSums(const A* col, A* sums, int len, int kw)
@@ -89,7 +119,7 @@ template <int N, class A> void windowSums(const A* col, A* sums, int len, int kw
 template <class T, int N, int P, class A, class Emit>
 void boxExact(const T* win, int winStep, int width, int height, int kw, int kh, float inv, A* col, Emit emit)
 {
-    constexpr int kChunk = 256 / N * N;  // whole pixels
+    constexpr int kChunk = kSumChunk<N>;
     const int span = (width + kw - 1) * N, samples = width * N;
     A sums[kChunk];
     std::fill_n(col, span, 0);
