@@ -112,6 +112,75 @@ PxlStatus pxliSumWindowColumn_16s32f_C4R(const Pxl16s* pSrc, int srcStep, Pxl32f
 PxlStatus pxliFilterGetBufSize_64f_C1R(PxliSize kernelSize, int roiWidth, int* pBufferSize);
 PxlStatus pxliFilter_64f_C1R(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize dstRoiSize, const Pxl64f* pKernel, PxliSize kernelSize, PxliPoint anchor, Pxl8u* pBuffer);
 
+/* Median filters over odd masks, with borders as for the box filter but of the replicated and
+ * constant kinds only (a mirrored word gives pxlStatusBadBorder). The single-channel forms take
+ * the constant as a sample, the others one sample per channel (three for AC4, whose fourth
+ * sample is left as it was). pSrc equal to pDst filters in place, with the same result. The
+ * result is the middle value of the window's samples in order; with 32f samples the sorting
+ * networks of the common shapes (1x3, 3x1, 1x5, 5x1, 3x3, 5x5) and the partial bubble selection of
+ * every other shape decide where a NaN goes: an unordered pair is never exchanged. */
+PxlStatus pxliFilterMedianBorderGetBufferSize(PxliSize roiSize, PxliSize maskSize, PxlDataType dataType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterMedianBorder_8u_C1R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_8u_C3R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl8u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_8u_C4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl8u pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_8u_AC4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl8u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_16u_C1R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, Pxl16u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_16u_C3R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_16u_C4R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16u pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_16u_AC4R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_16s_C4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_16s_AC4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterMedianBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+
+/* Float medians without borders: the window of output pixel (x, y) starts anchor.x columns left and
+ * anchor.y rows above it, and the caller's buffer holds those pixels around the region; each
+ * channel alone, the fourth of C4 as well. The work buffer is needed by masks other than 1x1,
+ * 3x1, 5x1, 1x3, 1x5, 3x3 and 5x5. */
+PxlStatus pxliFilterMedianGetBufferSize_32f(PxliSize roiSize, PxliSize maskSize, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterMedianGetBufferSize_64f(PxliSize roiSize, PxliSize maskSize, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterMedian_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize dstRoiSize, PxliSize maskSize, PxliPoint anchor, Pxl8u* pBuffer);
+PxlStatus pxliFilterMedian_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize dstRoiSize, PxliSize maskSize, PxliPoint anchor, Pxl8u* pBuffer);
+PxlStatus pxliFilterMedian_64f_C1R(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize dstRoiSize, PxliSize maskSize, PxliPoint anchor, Pxl8u* pBuffer);
+
+/* The cross median, each channel alone, no border (the pixels around the region must exist):
+ * pxlMask3x3 takes the median of the centre and its four neighbours; pxlMask5x5 the nine samples
+ * of the centre row and column, in this order: the row from two left to two right, then the column
+ * two above, one above, one below, two below; taken as three triples of consecutive samples, each
+ * sorted, the result is the median of the largest of the three smallest, the median of the three
+ * middles and the smallest of the three largest. AC4 leaves the fourth sample as it was. */
+PxlStatus pxliFilterMedianCross_8u_C1R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianCross_8u_C3R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianCross_8u_AC4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianCross_16u_C1R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianCross_16u_C3R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianCross_16u_AC4R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianCross_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianCross_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianCross_16s_AC4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+
+/* The vector median of a 3x3 (pxlMask3x3) or 5x5 (pxlMask5x5) window, no border: the window pixel
+ * whose summed city-block distances to all the window's pixels (over three channels; 32-bit
+ * integers, or 32f summed column by column from the left, each column top to bottom) is smallest,
+ * the first in row-major order among equals; its three channels are written together. AC4 leaves
+ * the fourth sample as it was. */
+PxlStatus pxliFilterMedianColor_8u_C3R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianColor_8u_AC4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianColor_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianColor_16s_AC4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianColor_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus pxliFilterMedianColor_32f_AC4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+
+/* The 3x3 median whose centre counts `weight` times, no border: the value of rank (8 + weight) / 2
+ * from the smallest (counting from 0) of the window with the centre repeated. An even weight acts
+ * as the odd one below it and the call returns pxlStatusWarnEvenWeight; a weight of 9 or more
+ * copies the region; a weight below 1 is pxlStatusBadCenterWeight. */
+PxlStatus pxliFilterMedianWeightedCenter3x3_8u_C1R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize dstRoiSize, int weight);
+
+/* The median of three planes, pixel by pixel. */
+PxlStatus pxliMedian_8u_P3C1R(const Pxl8u* const ppSrc[3], int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize);
+
 #ifdef __cplusplus
 }
 #endif

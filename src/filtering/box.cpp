@@ -458,8 +458,11 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
             work.bytes[1] = areas.slots;
         }
     }
+    // The constant as whole pixels: AC4 gives three samples, the frames' fourth is never written.
+    T value[4] = {};
+    if (pBorderValue) std::copy_n(pBorderValue, P, value);
     if (pSrc != pDst) {
-        filterStrips<T, Frames>(pSrc, srcStep, pDst, dstStep, roi, w, border, pBorderValue, strips, slots, rows, sides);
+        filterStrips<T, Frames>(pSrc, srcStep, pDst, dstStep, roi, w, border, value, strips, slots, rows, sides);
         return pxlStatusOk;
     }
     // In place: each output row waits in one of ay + 1 slots until no later row reads the image row
@@ -475,7 +478,7 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
         });
         for (int y = std::max(0, height - count); y < height; ++y) flush(y);
     };
-    filterStripsInPlace<T, Frames>(pDst, dstStep, roi, w, border, pBorderValue, strips, slots, rows, inPlace, sides);
+    filterStripsInPlace<T, Frames>(pDst, dstStep, roi, w, border, value, strips, slots, rows, inPlace, sides);
     return pxlStatusOk;
 }
 

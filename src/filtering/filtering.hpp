@@ -27,6 +27,27 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
                           const T* pBorderValue, Pxl8u* pBuffer);
 PxlStatus filterBox64f(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliSize dstRoiSize, PxliSize maskSize, PxliPoint anchor);
 
+// The median filters.
+PxlStatus filterMedianBorderGetBufferSize(PxliSize roiSize, PxliSize maskSize, PxlDataType dataType, int numChannels, int* pBufferSize);
+template <class T, class L>
+PxlStatus filterMedianBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize,
+                             PxliBorderMode border, const T* pBorderValue, Pxl8u* pBuffer);
+template <class T>
+PxlStatus filterMedianBorderC1(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roiSize, PxliSize maskSize,
+                               PxliBorderMode border, T value, Pxl8u* pBuffer);
+PxlStatus filterMedianGetBufferSize32f(PxliSize roiSize, PxliSize maskSize, int numChannels, int* pBufferSize);
+PxlStatus filterMedianGetBufferSize64f(PxliSize roiSize, PxliSize maskSize, int numChannels, int* pBufferSize);
+template <class T, class L>
+PxlStatus filterMedianFloat(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize dstRoiSize, PxliSize maskSize, PxliPoint anchor,
+                            Pxl8u* pBuffer);
+
+template <class T, class L>
+PxlStatus filterMedianCross(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+template <class T, class L>
+PxlStatus filterMedianColor(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize dstRoiSize, PxlMaskCode mask);
+PxlStatus filterMedianWeightedCenter3x3(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize dstRoiSize, int weight);
+PxlStatus median8uP3C1(const Pxl8u* const ppSrc[3], int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize);
+
 // Running window sums along rows and columns.
 template <class S, class L>
 PxlStatus sumWindowRow(const S* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roi, int maskSize, int anchor);

@@ -1,0 +1,435 @@
+// Median filters over odd masks: with borders, each output row made from a ring of the rows of its
+// windows extended by the border rule (which also lets a call filter in place), and the float
+// forms whose caller places the window.
+//
+// The method depends on the mask's shape alone: a median of three for 1x3 and 3x1, a network of
+// five for 1x5 and 5x1, sorted columns for 3x3 and 5x5 (each column sorted once and shared by the
+// windows over it), and for any other shape a sliding histogram (8u), an exact selection (16u,
+// 16s) or the partial bubble selection (float, which fixes where a NaN goes).
+#include "filtering/filtering.hpp"
+#include "filtering/median_networks.hpp"
+
+#include "exchange/border.hpp"
+#include "exchange/kernels.hpp"
+#include "frame/bind.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+
+namespace pxl::filt {
+
+// Samples in the work buffer, which may start at any address, are read and written as samples of
+// alignment 1.
+template <class T> struct Unaligned {
+    typedef T type __attribute__((aligned(1)));
+};
+template <class T> using Loose = typename Unaligned<T>::type;
+
+// What a row kernel needs besides its rows: the mask, and room for one window's samples.
+template <class T> struct MedianWindow {
+    int kw, kh;
+    Loose<T>* scratch;
+};
+
+namespace {
+
+enum class Shape { Copy, Column3, Column5, Row3, Row5, Square3, Square5, Any };
+
+Shape shapeOf(PxliSize mask)
+{
+    const int kw = mask.width, kh = mask.height;
+    if (kw == 1) return kh == 1 ? Shape::Copy : kh == 3 ? Shape::Column3 : kh == 5 ? Shape::Column5 : Shape::Any;
+    if (kh == 1) return kw == 3 ? Shape::Row3 : kw == 5 ? Shape::Row5 : Shape::Any;
+    return kw == 3 && kh == 3 ? Shape::Square3 : kw == 5 && kh == 5 ? Shape::Square5 : Shape::Any;
+}
+
+bool badMedianMask(PxliSize mask) { return mask.width < 1 || mask.height < 1 || mask.width % 2 == 0 || mask.height % 2 == 0; }
+
+constexpr int64_t roundUp32(int64_t n) { return (n + 31) & ~int64_t{31}; }
+
+// Row kernels. rows(i) gives the first sample of window row i for the first output pixel; N
+// samples to a pixel, every one filtered; `width` pixels go to out.
+constexpr int kMedianChunk = 256;  // pixels whose column sorts are kept at a time
+
+template <class T, int N, class Rows> void medianColumn3(const Rows& rows, T* out, int width, const MedianWindow<T>&)
+{
+    const auto *a = rows(0), *b = rows(1), *c = rows(2);
+    for (int j = 0; j < width * N; ++j) out[j] = medianOf3<T>(a[j], b[j], c[j]);
+}
+
+template <class T, int N, class Rows> void medianRow3(const Rows& rows, T* out, int width, const MedianWindow<T>&)
+{
+    const auto* r = rows(0);
+    for (int j = 0; j < width * N; ++j) out[j] = medianOf3<T>(r[j], r[j + N], r[j + 2 * N]);
+}
+
+template <class T, int N, class Rows> void medianColumn5(const Rows& rows, T* out, int width, const MedianWindow<T>&)
+{
+    const auto *r0 = rows(0), *r1 = rows(1), *r2 = rows(2), *r3 = rows(3), *r4 = rows(4);
+    for (int j = 0; j < width * N; ++j) {
+        T v[5] = {r0[j], r1[j], r2[j], r3[j], r4[j]};
+        applyNetwork<kMedianOf5>(v);
+        out[j] = v[2];
+    }
+}
+
+template <class T, int N, class Rows> void medianRow5(const Rows& rows, T* out, int width, const MedianWindow<T>&)
+{
+    const auto* r = rows(0);
+    for (int j = 0; j < width * N; ++j) {
+        T v[5] = {r[j], r[j + N], r[j + 2 * N], r[j + 3 * N], r[j + 4 * N]};
+        applyNetwork<kMedianOf5>(v);
+        out[j] = v[2];
+    }
+}
+
+// 3x3: each column of three sorted once; the median of nine is then the median of the largest of
+// the three smallest, the middle of the three middles and the smallest of the three largest.
+template <class T, int N, class Rows> void medianSquare3(const Rows& rows, T* out, int width, const MedianWindow<T>&)
+{
+    T lo[(kMedianChunk + 2) * N], mid[(kMedianChunk + 2) * N], hi[(kMedianChunk + 2) * N];
+    for (int x0 = 0; x0 < width; x0 += kMedianChunk) {
+        const int n = std::min(kMedianChunk, width - x0) * N;
+        const auto *a = rows(0) + x0 * N, *b = rows(1) + x0 * N, *c = rows(2) + x0 * N;
+        for (int i = 0; i < n + 2 * N; ++i) {
+            T v[3] = {a[i], b[i], c[i]};
+            applyNetwork<kSortOf3>(v);
+            lo[i] = v[0];
+            mid[i] = v[1];
+            hi[i] = v[2];
+        }
+        T* o = out + x0 * N;
+        for (int j = 0; j < n; ++j) {
+            const T top = upperOf(upperOf(lo[j], lo[j + N]), lo[j + 2 * N]);
+            const T bottom = lowerOf(lowerOf(hi[j], hi[j + N]), hi[j + 2 * N]);
+            o[j] = medianOf3(top, medianOf3(mid[j], mid[j + N], mid[j + 2 * N]), bottom);
+        }
+    }
+}
+
+// 5x5: each column of five sorted once; the network of sorted columns gives the middle of 25.
+template <class T, int N, class Rows> void medianSquare5(const Rows& rows, T* out, int width, const MedianWindow<T>&)
+{
+    T col[5][(kMedianChunk + 4) * N];
+    for (int x0 = 0; x0 < width; x0 += kMedianChunk) {
+        const int n = std::min(kMedianChunk, width - x0) * N;
+        decltype(rows(0)) r[5];
+        for (int i = 0; i < 5; ++i) r[i] = rows(i) + x0 * N;
+        for (int i = 0; i < n + 4 * N; ++i) {
+            T v[5] = {r[0][i], r[1][i], r[2][i], r[3][i], r[4][i]};
+            applyNetwork<kSortOf5>(v);
+            for (int k = 0; k < 5; ++k) col[k][i] = v[k];
+        }
+        T* o = out + x0 * N;
+        for (int j = 0; j < n; ++j) {
+            T v[25];
+            for (int c = 0; c < 5; ++c)
+                for (int k = 0; k < 5; ++k) v[c * 5 + k] = col[k][j + c * N];
+            applyNetwork<kMedianOf25SortedColumns>(v);
+            o[j] = v[12];
+        }
+    }
+}
+
+// Any other shape, float: the window copied row by row, then the partial bubble selection: passes
+// from the front that exchange neighbours whose first is smaller, each sinking the smallest left to
+// the end, n - m of them; entry m is the result. An unordered pair stays as it is.
+template <class T> T bubbleMiddle(Loose<T>* s, int n)
+{
+    const int m = n >> 1;
+    for (int pass = 0; pass < n - m; ++pass)
+        for (int i = 0; i + 1 < n - pass; ++i)
+            if (s[i] < s[i + 1]) std::swap(s[i], s[i + 1]);
+    return s[m];
+}
+
+template <class T, int N, class Rows> void medianAny(const Rows& rows, T* out, int width, const MedianWindow<T>& w)
+{
+    const int n = w.kw * w.kh;
+    for (int x = 0; x < width; ++x)
+        for (int c = 0; c < N; ++c) {
+            Loose<T>* s = w.scratch;
+            for (int i = 0; i < w.kh; ++i) {
+                const auto* r = rows(i) + x * N + c;
+                for (int k = 0; k < w.kw; ++k) *s++ = r[k * N];
+            }
+            if constexpr (std::is_floating_point_v<T>) {
+                out[x * N + c] = bubbleMiddle<T>(w.scratch, n);
+            } else {
+                std::nth_element(w.scratch, w.scratch + (n >> 1), w.scratch + n);
+                out[x * N + c] = w.scratch[n >> 1];
+            }
+        }
+}
+
+// Any other shape, 8u: a histogram of the window slides along the row, a column out and a column
+// in per pixel, and the median moves from where it was.
+template <class T, int N, class Rows> void medianHistogram(const Rows& rows, T* out, int width, const MedianWindow<T>& w)
+{
+    const int m = (w.kw * w.kh) >> 1;
+    for (int c = 0; c < N; ++c) {
+        uint32_t hist[256] = {};
+        for (int i = 0; i < w.kh; ++i) {
+            const auto* r = rows(i) + c;
+            for (int k = 0; k < w.kw; ++k) ++hist[r[k * N]];
+        }
+        int median = 0, below = 0;  // samples below the median
+        auto settle = [&] {
+            while (below > m) below -= static_cast<int>(hist[--median]);
+            while (below + static_cast<int>(hist[median]) <= m) below += static_cast<int>(hist[median++]);
+        };
+        settle();
+        out[c] = static_cast<T>(median);
+        for (int x = 1; x < width; ++x) {
+            for (int i = 0; i < w.kh; ++i) {
+                const auto* r = rows(i) + c;
+                const int gone = r[(x - 1) * N], come = r[(x + w.kw - 1) * N];
+                --hist[gone];
+                ++hist[come];
+                below += (come < median) - (gone < median);
+            }
+            settle();
+            out[x * N + c] = static_cast<T>(median);
+        }
+    }
+}
+
+// One output row of layout L from its rows: straight into out where every sample is filtered,
+// else through a stretch of whole pixels of which the first P samples are kept.
+template <class T, class L, class Kernel, class Rows>
+void medianOutRow(const Kernel& kernel, const Rows& rows, T* out, int width, const MedianWindow<T>& w)
+{
+    constexpr int N = L::mem;
+    if constexpr (N == L::proc) {
+        kernel(rows, out, width, w);
+    } else {
+        T stretch[kMedianChunk * N];
+        for (int x0 = 0; x0 < width; x0 += kMedianChunk) {
+            const int len = std::min(kMedianChunk, width - x0);
+            kernel([&](int i) { return rows(i) + x0 * N; }, stretch, len, w);
+            krnCopyPixels<T, L>(stretch, out + x0 * N, len);
+        }
+    }
+}
+
+// Calls run(kernel) with the row kernel of the mask's shape for samples T, N to a pixel.
+template <class T, int N, class Run> void withMedianKernel(Shape shape, const Run& run)
+{
+    auto bind = [&](auto kernel) { run(kernel); };
+    switch (shape) {
+    case Shape::Column3: bind([](const auto& r, T* o, int w, const MedianWindow<T>& c) { medianColumn3<T, N>(r, o, w, c); }); break;
+    case Shape::Column5: bind([](const auto& r, T* o, int w, const MedianWindow<T>& c) { medianColumn5<T, N>(r, o, w, c); }); break;
+    case Shape::Row3: bind([](const auto& r, T* o, int w, const MedianWindow<T>& c) { medianRow3<T, N>(r, o, w, c); }); break;
+    case Shape::Row5: bind([](const auto& r, T* o, int w, const MedianWindow<T>& c) { medianRow5<T, N>(r, o, w, c); }); break;
+    case Shape::Square3: bind([](const auto& r, T* o, int w, const MedianWindow<T>& c) { medianSquare3<T, N>(r, o, w, c); }); break;
+    case Shape::Square5: bind([](const auto& r, T* o, int w, const MedianWindow<T>& c) { medianSquare5<T, N>(r, o, w, c); }); break;
+    default:
+        if constexpr (std::is_same_v<T, Pxl8u>)
+            bind([](const auto& r, T* o, int w, const MedianWindow<T>& c) { medianHistogram<T, N>(r, o, w, c); });
+        else
+            bind([](const auto& r, T* o, int w, const MedianWindow<T>& c) { medianAny<T, N>(r, o, w, c); });
+        break;
+    }
+}
+
+// The extended samples of image row `row` (or of the constant, where row is null) from pixel p0
+// on, count pixels: beyond a side the caller's memory where its flag is set, else the edge pixel
+// repeated or the constant.
+template <class T, int N>
+void extendRow(const T* row, int W, int p0, int count, int kind, int flags, const T* value, Loose<T>* dst)
+{
+    for (int k = 0; k < count;) {
+        const int p = p0 + k;
+        const bool outLeft = p < 0 && !(flags & pxlBorderMemLeft), outRight = p >= W && !(flags & pxlBorderMemRight);
+        if (row && !outLeft && !outRight) {
+            // The run of real pixels up to the right edge (or the end of the count).
+            const int end = std::min(p0 + count, flags & pxlBorderMemRight ? p0 + count : W);
+            std::memcpy(dst + std::ptrdiff_t{N} * k, row + std::ptrdiff_t{N} * p, sizeof(T) * N * static_cast<std::size_t>(end - p));
+            k += end - p;
+            continue;
+        }
+        const T* px = !row || kind == pxlBorderConstant ? value : row + (outLeft ? 0 : std::ptrdiff_t{N} * (W - 1));
+        std::memcpy(dst + std::ptrdiff_t{N} * k, px, sizeof(T) * N);
+        ++k;
+    }
+}
+
+// The sizes of the work buffer, in bytes.
+int64_t medianBufferBytes(PxliSize roi, PxliSize mask, int sampleBytes, int channels)
+{
+    const int64_t W = roi.width, H = roi.height, kw = mask.width, kh = mask.height, b = sampleBytes;
+    const bool network = shapeOf(mask) != Shape::Any;
+    if (channels == 1) {
+        const bool noScratch = kw < 6 && kh < 6 && (kw == 1 || kh == 1 || kw == kh);
+        const int64_t scratch = noScratch ? 0 : roundUp32(kw * kh * 4);
+        if (W < kw || H < kh || (W == kw && H == kh)) return scratch + roundUp32((W + kw - 1) * (H + kh - 1) * b);
+        const int64_t stripes = kh * 2 * roundUp32(W * b);
+        const int64_t parking = 2 * roundUp32(W * (kh >> 1) * b) + 2 * roundUp32(H * (kw >> 1) * b);
+        const int64_t strip = roundUp32(std::max((W + kw - 1) * (kh + (kh >> 1)) * b, (kw + (kw >> 1)) * (H + kh - 1) * b));
+        return scratch + stripes + parking + strip;
+    }
+    const int64_t n = kw < W && kh < H ? std::max((W + kw - 1) * ((kh >> 1) + kh - 1), (kw + (kw >> 1) - 1) * (H + kh - 1))
+                                       : (W + kw - 1) * (H + kh - 1);
+    return roundUp32(channels * n * b) + (b == 2 && !network ? kw * kh * 8 : 0);
+}
+
+}  // namespace
+
+PxlStatus filterMedianBorderGetBufferSize(PxliSize roi, PxliSize mask, PxlDataType dataType, int numChannels, int* pBufferSize)
+{
+    // Checks: the result pointer, the region, the mask, then the type for one channel, or the
+    // channels and then the type for more.
+    if (!pBufferSize) return pxlStatusNullPointer;
+    if (badSize(roi)) return pxlStatusBadSize;
+    if (badMedianMask(mask)) return pxlStatusBadMaskSize;
+    if (numChannels == 1) {
+        if (!knownDataType(dataType)) return pxlStatusBadDataType;
+    } else {
+        if (numChannels != 3 && numChannels != 4) return pxlStatusBadChannelCount;
+        if (!knownDataType(dataType) || dataType == pxlDt32f) return pxlStatusBadDataType;
+    }
+    const int64_t bytes = medianBufferBytes(roi, mask, dataTypeBytes(dataType), numChannels);
+    if (bytes > INT32_MAX) {
+        *pBufferSize = 0;
+        return pxlStatusSizeOverflow;
+    }
+    *pBufferSize = static_cast<int>(bytes);
+    return pxlStatusOk;
+}
+
+template <class T, class L>
+PxlStatus filterMedianBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, PxliSize mask, PxliBorderMode border,
+                             const T* pBorderValue, Pxl8u* pBuffer)
+{
+    // Checks: pointers; the region; the mask; the border word (replicated or constant kinds, and
+    // the constant's value).
+    if (!pSrc || !pDst || !pBuffer) return pxlStatusNullPointer;
+    if (badSize(roi)) return pxlStatusBadSize;
+    if (badMedianMask(mask)) return pxlStatusBadMaskSize;
+    if (checkBorderWord(border, kNoMirrorBorderKinds) != pxlStatusOk) return pxlStatusBadBorder;
+    if ((border & 15) == pxlBorderConstant && !pBorderValue) return pxlStatusNullPointer;
+
+    constexpr int N = L::mem;
+    const int W = roi.width, H = roi.height, kw = mask.width, kh = mask.height;
+    const Shape shape = shapeOf(mask);
+    if (shape == Shape::Copy) {
+        if (pSrc != pDst)
+            for (int y = 0; y < H; ++y) krnCopyPixels<T, L>(rowAt(pSrc, srcStep, y), rowAt(pDst, dstStep, y), W);
+        return pxlStatusOk;
+    }
+    // Nothing overhangs across a mask one wide (or high): those sides count as in memory.
+    if (kw == 1) border |= pxlBorderMemLeft | pxlBorderMemRight;
+    if (kh == 1) border |= pxlBorderMemTop | pxlBorderMemBottom;
+    // The constant as whole pixels (AC4: three samples given, the fourth never written).
+    T value[4] = {};
+    if (pBorderValue) std::copy_n(pBorderValue, L::proc, value);
+
+    // The work buffer, at whatever address it starts: a ring of the current windows' rows,
+    // extended, so that each output row is made from it (in place, after the image rows under it
+    // have been copied), and at its end one window's samples for the selection.
+    const int64_t total = medianBufferBytes(roi, mask, static_cast<int>(sizeof(T)), N);
+    const int64_t scratchBytes = shape == Shape::Any && !std::is_same_v<T, Pxl8u> ? int64_t{kw} * kh * static_cast<int64_t>(sizeof(T)) : 0;
+    const int64_t room = total - scratchBytes;
+    Loose<T>* ring = reinterpret_cast<Loose<T>*>(pBuffer);
+    const MedianWindow<T> w{kw, kh, reinterpret_cast<Loose<T>*>(pBuffer + room)};
+    const int ay = kh >> 1, ax = kw >> 1, span = W + kw - 1, kind = border & 15, flags = border & pxlBorderMemAll;
+
+    withMedianKernel<T, N>(shape, [&](const auto& kernel) {
+        if (int64_t{kh} * span * N * static_cast<int64_t>(sizeof(T)) <= room) {
+            auto slot = [&](int r) { return ring + std::ptrdiff_t{((r % kh) + kh) % kh} * span * N; };
+            auto load = [&](int r) {
+                const bool real = (r >= 0 || flags & pxlBorderMemTop) && (r < H || flags & pxlBorderMemBottom);
+                const T* row = real || kind == pxlBorderReplicate ? rowAt(pSrc, srcStep, real ? r : std::clamp(r, 0, H - 1)) : nullptr;
+                extendRow<T, N>(row, W, -ax, span, kind, flags, value, slot(r));
+            };
+            for (int r = -ay; r < ay; ++r) load(r);
+            for (int y = 0; y < H; ++y) {
+                load(y + ay);
+                medianOutRow<T, L>(kernel, [&](int i) { return static_cast<const Loose<T>*>(slot(y - ay + i)); }, rowAt(pDst, dstStep, y), W, w);
+            }
+            return;
+        }
+        // One row high, with no room for a whole row: each row in stretches, the last kw - 1
+        // extended pixels of a stretch kept for the next (in place, the image under them is
+        // already written).
+        const int capacity = static_cast<int>(room / (N * static_cast<int64_t>(sizeof(T))));
+        for (int y = 0; y < H; ++y) {
+            const T* row = rowAt(pSrc, srcStep, y);
+            int filled = 0;  // extended pixels in the ring, from pixel x0 - ax on
+            for (int x0 = 0; x0 < W;) {
+                const int len = std::min(capacity - (kw - 1), W - x0);
+                extendRow<T, N>(row, W, x0 - ax + filled, len + kw - 1 - filled, kind, flags, value, ring + std::ptrdiff_t{N} * filled);
+                medianOutRow<T, L>(kernel, [&](int) { return static_cast<const Loose<T>*>(ring); }, rowAt(pDst, dstStep, y) + std::ptrdiff_t{N} * x0, len, w);
+                std::memmove(ring, ring + std::ptrdiff_t{N} * len, sizeof(T) * N * static_cast<std::size_t>(kw - 1));
+                filled = kw - 1;
+                x0 += len;
+            }
+        }
+    });
+    return pxlStatusOk;
+}
+
+template <class T>
+PxlStatus filterMedianBorderC1(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, PxliSize mask, PxliBorderMode border,
+                               T value, Pxl8u* pBuffer)
+{
+    return filterMedianBorder<T, C1>(pSrc, srcStep, pDst, dstStep, roi, mask, border, &value, pBuffer);
+}
+
+// The float medians whose caller places the window: the source pointer moves to the window of the
+// first output pixel, and the rows come straight from the source.
+PxlStatus filterMedianGetBufferSize(PxliSize roi, PxliSize mask, int numChannels, int* pBufferSize, int sampleBytes)
+{
+    // Checks: the result pointer, the region, the mask, the channels.
+    if (!pBufferSize) return pxlStatusNullPointer;
+    if (badSize(roi)) return pxlStatusBadSize;
+    if (badMedianMask(mask)) return pxlStatusBadMaskSize;
+    if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pxlStatusBadChannelCount;
+    const int64_t kw = mask.width, kh = mask.height;
+    const int64_t bytes = sampleBytes == 8 ? (kw * 17 * kh * 8 + 144) & ~int64_t{15} : kw * kh * 4;
+    if (bytes > INT32_MAX) return pxlStatusSizeOverflow;
+    *pBufferSize = static_cast<int>(bytes);
+    return pxlStatusOk;
+}
+PxlStatus filterMedianGetBufferSize32f(PxliSize roi, PxliSize mask, int numChannels, int* pBufferSize)
+{
+    return filterMedianGetBufferSize(roi, mask, numChannels, pBufferSize, 4);
+}
+PxlStatus filterMedianGetBufferSize64f(PxliSize roi, PxliSize mask, int numChannels, int* pBufferSize)
+{
+    return filterMedianGetBufferSize(roi, mask, numChannels, pBufferSize, 8);
+}
+
+template <class T, class L>
+PxlStatus filterMedianFloat(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, PxliSize mask, PxliPoint anchor, Pxl8u* pBuffer)
+{
+    constexpr int N = L::mem;
+    // Checks: pointers; the region; steps; the mask; the anchor; the source step against the
+    // windows' width.
+    if (!pSrc || !pDst || !pBuffer) return pxlStatusNullPointer;
+    if (badSize(roi)) return pxlStatusBadSize;
+    if (srcStep < 1 || dstStep < 1) return pxlStatusBadStep;
+    if (badMedianMask(mask)) return pxlStatusBadMaskSize;
+    if (anchor.x < 0 || anchor.x >= mask.width || anchor.y < 0 || anchor.y >= mask.height) return pxlStatusBadAnchor;
+    if (srcStep < (int64_t{roi.width} + mask.width - 1) * N * static_cast<int64_t>(sizeof(T))) return pxlStatusBadStep;
+
+    const Shape shape = shapeOf(mask);
+    if (shape == Shape::Copy) {
+        for (int y = 0; y < roi.height; ++y) krnCopyPixels<T, L>(rowAt(pSrc, srcStep, y), rowAt(pDst, dstStep, y), roi.width);
+        return pxlStatusOk;
+    }
+    const T* win = rowAt(pSrc, srcStep, -anchor.y) - std::ptrdiff_t{N} * anchor.x;
+    const MedianWindow<T> w{mask.width, mask.height, reinterpret_cast<Loose<T>*>(pBuffer)};
+    withMedianKernel<T, N>(shape, [&](const auto& kernel) {
+        for (int y = 0; y < roi.height; ++y)
+            medianOutRow<T, L>(kernel, [&](int i) { return rowAt(win, srcStep, y + i); }, rowAt(pDst, dstStep, y), roi.width, w);
+    });
+    return pxlStatusOk;
+}
+
+}  // namespace pxl::filt
+
+#include "inst/filtering/median.inc"

@@ -1,0 +1,214 @@
+// The median filter with borders against the middle of each extended window, sorted; for float
+// windows of the shapes without a network, the partial bubble selection as its rule states it (a
+// NaN stays where a pass finds it). In place against not, guard bands round image and buffer.
+#include "extension_model.hpp"
+#include "pxltest.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace {
+
+using pxltest::GuardedBuffer;
+using pxltest::GuardedImage;
+using pxltest::Rng;
+
+constexpr int kMargin = 6;
+
+template <class T, int N, bool Alpha>
+PxlStatus callMedian(const T* s, int ss, T* d, int ds, PxliSize roi, PxliSize mask, int border, const T* v, Pxl8u* buf)
+{
+#define PXL_MEDIAN(t, ct)                                                                                                \
+    if constexpr (std::is_same_v<T, ct>) {                                                                               \
+        if constexpr (Alpha) return pxliFilterMedianBorder_##t##_AC4R(s, ss, d, ds, roi, mask, border, v, buf);          \
+        else if constexpr (N == 1) return pxliFilterMedianBorder_##t##_C1R(s, ss, d, ds, roi, mask, border, v[0], buf); \
+        else if constexpr (N == 3) return pxliFilterMedianBorder_##t##_C3R(s, ss, d, ds, roi, mask, border, v, buf);     \
+        else return pxliFilterMedianBorder_##t##_C4R(s, ss, d, ds, roi, mask, border, v, buf);                          \
+    }
+    PXL_MEDIAN(8u, Pxl8u)
+    PXL_MEDIAN(16u, Pxl16u)
+    PXL_MEDIAN(16s, Pxl16s)
+    if constexpr (std::is_same_v<T, Pxl32f>) return pxliFilterMedianBorder_32f_C1R(s, ss, d, ds, roi, mask, border, v[0], buf);
+#undef PXL_MEDIAN
+}
+
+bool hasNetwork(PxliSize m)
+{
+    const int kw = m.width, kh = m.height;
+    return (kw == 1 && kh <= 5) || (kh == 1 && kw <= 5) || (kw == kh && kw <= 5);
+}
+
+// Float results agree when they are equal numbers (either zero) or both NaN.
+template <class T> bool same(T a, T b)
+{
+    if constexpr (std::is_floating_point_v<T>) return a == b || (std::isnan(a) && std::isnan(b));
+    else return a == b;
+}
+
+// The window's samples row by row; its middle.
+template <class T> T middle(std::vector<T> s, bool bubble)
+{
+    const int n = static_cast<int>(s.size()), m = n / 2;
+    if (!bubble) {
+        std::sort(s.begin(), s.end());
+        return s[m];
+    }
+    for (int pass = 0; pass < n - m; ++pass)
+        for (int i = 0; i + 1 < n - pass; ++i)
+            if (s[i] < s[i + 1]) std::swap(s[i], s[i + 1]);
+    return s[m];
+}
+
+template <class T, int N, bool Alpha> void medianCases(int cases, uint64_t seed)
+{
+    constexpr int P = Alpha ? 3 : N;
+    Rng rng(seed);
+    const PxliSize masks[] = {{1, 1}, {1, 3}, {3, 1}, {1, 5}, {5, 1}, {3, 3}, {5, 5}, {3, 5}, {5, 3}, {7, 7}, {1, 7}, {9, 1}, {7, 3}, {11, 11}};
+    const PxliSize rois[] = {{1, 1}, {2, 3}, {5, 1}, {1, 6}, {4, 4}, {9, 7}, {23, 11}, {300 / N, 4}, {40, 20}, {3, 3}, {5, 5}, {7, 9}};
+    for (int n = 0; n < cases; ++n) {
+        const PxliSize mask = masks[rng.uniformInt(0, 13)], roi = rois[rng.uniformInt(0, 11)];
+        const int border = (rng.chance(0.5) ? pxlBorderReplicate : pxlBorderConstant) | rng.uniformInt(0, 15) << 4;
+        // Many equal samples now and then, where networks most often slip.
+        const bool few = rng.chance(0.3), nan = std::is_floating_point_v<T> && !hasNetwork(mask) && rng.chance(0.5);
+        GuardedImage<T> img(roi.width + 2 * kMargin, roi.height + 2 * kMargin, N);
+        for (int y = 0; y < img.height(); ++y)
+            for (int i = 0; i < img.samplesPerRow(); ++i)
+                img.row(y)[i] = few ? static_cast<T>(rng.uniformInt(0, 3)) : rng.sample<T>(0.3, nan);
+        T value[4];
+        for (T& v : value) v = rng.sample<T>(0.5, false);
+        int size = 0;
+        ASSERT_EQ(pxliFilterMedianBorderGetBufferSize(roi, mask, pxltest::typeCode<T>(), N, &size), pxlStatusOk);
+        GuardedBuffer work(size, 1, 0, 64, 1);
+        GuardedImage<T> dst(roi.width, roi.height, N);
+        dst.fillRandom(rng);
+        const GuardedImage<T> before = dst;
+        const T* src = &img.at(kMargin, kMargin);
+        ASSERT_EQ((callMedian<T, N, Alpha>(src, img.step(), dst.data(), dst.step(), roi, mask, border, value, work.base())), pxlStatusOk);
+        const filtmodel::Extension<T> ext{img, kMargin, roi, mask.width, mask.height, border, value};
+        const std::string what = std::string(pxltest::token<T>()) + (Alpha ? " AC4" : " C" + std::to_string(N)) + " mask " +
+                                 std::to_string(mask.width) + "x" + std::to_string(mask.height) + " roi " + std::to_string(roi.width) +
+                                 "x" + std::to_string(roi.height) + " border " + std::to_string(border);
+        ASSERT_TRUE(work.guardsIntact()) << what << ": work buffer overrun";
+        for (int y = 0; y < roi.height; ++y)
+            for (int x = 0; x < roi.width; ++x)
+                for (int c = 0; c < N; ++c) {
+                    T want = before.at(x, y, c);
+                    if (c < P) {
+                        std::vector<T> s;
+                        for (int i = 0; i < mask.height; ++i)
+                            for (int k = 0; k < mask.width; ++k) s.push_back(ext(x + k - mask.width / 2, y + i - mask.height / 2, c));
+                        want = middle(s, std::is_floating_point_v<T> && !hasNetwork(mask));
+                    }
+                    ASSERT_TRUE(same(dst.at(x, y, c), want))
+                        << what << " at (" << x << ", " << y << ") channel " << c << ": got " << +dst.at(x, y, c) << ", want " << +want;
+                }
+        ASSERT_TRUE(dst.guardsIntact()) << what;
+
+        // In place, on a copy of the whole image: the region as out of place, the rest untouched.
+        GuardedImage<T> copy = img;
+        for (int y = 0; y < roi.height; ++y)
+            for (int x = 0; x < roi.width; ++x)
+                for (int c = P; c < N; ++c) copy.at(kMargin + x, kMargin + y, c) = before.at(x, y, c);
+        GuardedBuffer work2(size, 1, 0, 64, 2);
+        T* region = &copy.at(kMargin, kMargin);
+        ASSERT_EQ((callMedian<T, N, Alpha>(region, copy.step(), region, copy.step(), roi, mask, border, value, work2.base())), pxlStatusOk);
+        ASSERT_TRUE(work2.guardsIntact()) << what << ": work buffer overrun in place";
+        for (int y = 0; y < copy.height(); ++y)
+            for (int x = 0; x < copy.width(); ++x) {
+                const bool inside = x >= kMargin && x < kMargin + roi.width && y >= kMargin && y < kMargin + roi.height;
+                for (int c = 0; c < N; ++c) {
+                    const T got = copy.at(x, y, c), expect = inside ? dst.at(x - kMargin, y - kMargin, c) : img.at(x, y, c);
+                    ASSERT_TRUE(pxltest::sameBits(got, expect))
+                        << what << " in place at (" << x - kMargin << ", " << y - kMargin << ") channel " << c;
+                }
+            }
+    }
+}
+
+TEST(FilterMedianBorder, MediansOfEveryTypeAndLayout)
+{
+    medianCases<Pxl8u, 1, false>(300, 1);
+    medianCases<Pxl8u, 3, false>(100, 2);
+    medianCases<Pxl8u, 4, true>(80, 3);
+    medianCases<Pxl16u, 1, false>(150, 4);
+    medianCases<Pxl16u, 4, false>(60, 5);
+    medianCases<Pxl16s, 1, false>(150, 6);
+    medianCases<Pxl16s, 3, false>(60, 7);
+    medianCases<Pxl16s, 4, true>(60, 8);
+    medianCases<Pxl32f, 1, false>(300, 9);
+}
+
+// Sizes worked by hand.
+TEST(FilterMedianBorder, BufferSizes)
+{
+    int size = -1;
+    // 3x3 on 10x8 8u: no scratch; stripes 3 * 2 * 32, parking 2 * 32 + 2 * 32, strip 12 * 4 = 48 -> 64.
+    ASSERT_EQ(pxliFilterMedianBorderGetBufferSize({10, 8}, {3, 3}, pxlDt8u, 1, &size), pxlStatusOk);
+    EXPECT_EQ(size, 192 + 128 + 64);
+    // 3x5 pays for the selection scratch: 3 * 5 * 4 = 60 -> 64; stripes 5 * 2 * 32; parking 2 * 32
+    // (10 * 2) + 2 * 32 (8 * 1); strip max(12 * 7, 4 * 12) = 84 -> 96.
+    ASSERT_EQ(pxliFilterMedianBorderGetBufferSize({10, 8}, {3, 5}, pxlDt8u, 1, &size), pxlStatusOk);
+    EXPECT_EQ(size, 64 + 320 + 128 + 96);
+    // The mask as large as the region: the extended image, 5 * 5 * 4 = 100 -> 128.
+    ASSERT_EQ(pxliFilterMedianBorderGetBufferSize({3, 3}, {3, 3}, pxlDt32f, 1, &size), pxlStatusOk);
+    EXPECT_EQ(size, 128);
+    // Three channels of 16s, 7x7 on 20x10: n = max(26 * 9, 9 * 16) = 234; 3 * 234 * 2 = 1404 -> 1408,
+    // plus 7 * 7 * 8 for the selection.
+    ASSERT_EQ(pxliFilterMedianBorderGetBufferSize({20, 10}, {7, 7}, pxlDt16s, 3, &size), pxlStatusOk);
+    EXPECT_EQ(size, 1408 + 392);
+    EXPECT_EQ(pxliFilterMedianBorderGetBufferSize({40000, 40000}, {40001, 40001}, pxlDt8u, 1, &size), pxlStatusSizeOverflow);
+    EXPECT_EQ(size, 0);
+
+    EXPECT_EQ(pxliFilterMedianBorderGetBufferSize({0, 4}, {2, 2}, 2, 2, nullptr), pxlStatusNullPointer);
+    EXPECT_EQ(pxliFilterMedianBorderGetBufferSize({0, 4}, {2, 2}, 2, 2, &size), pxlStatusBadSize);
+    EXPECT_EQ(pxliFilterMedianBorderGetBufferSize({4, 4}, {3, 2}, 2, 2, &size), pxlStatusBadMaskSize);
+    EXPECT_EQ(pxliFilterMedianBorderGetBufferSize({4, 4}, {3, 3}, 2, 1, &size), pxlStatusBadDataType);
+    EXPECT_EQ(pxliFilterMedianBorderGetBufferSize({4, 4}, {3, 3}, 2, 2, &size), pxlStatusBadChannelCount);
+    EXPECT_EQ(pxliFilterMedianBorderGetBufferSize({4, 4}, {3, 3}, pxlDt32f, 3, &size), pxlStatusBadDataType);
+}
+
+TEST(FilterMedianBorder, CheckOrderAndCopies)
+{
+    const PxliSize roi{9, 7}, mask{3, 3};
+    int size = 0;
+    ASSERT_EQ(pxliFilterMedianBorderGetBufferSize(roi, mask, pxlDt8u, 3, &size), pxlStatusOk);
+    GuardedImage<Pxl8u> src(roi.width, roi.height, 3), dst(roi.width, roi.height, 3);
+    GuardedBuffer work(size, 1, 0, 64, 0);
+    const Pxl8u value[3] = {1, 2, 3};
+    struct Args {
+        const Pxl8u* src;
+        Pxl8u* dst;
+        PxliSize roi, mask;
+        int border;
+        const Pxl8u* value;
+        Pxl8u* buffer;
+    };
+    const Args valid{src.data(), dst.data(), roi, mask, pxlBorderConstant, value, work.base()};
+    pxltest::expectCheckOrder<Args>(
+        valid,
+        {{"null buffer", pxlStatusNullPointer, [](Args& a) { a.buffer = nullptr; }},
+         {"width 0", pxlStatusBadSize, [](Args& a) { a.roi.width = 0; }},
+         {"mask 3x4", pxlStatusBadMaskSize, [](Args& a) { a.mask.height = 4; }},
+         {"mirrored", pxlStatusBadBorder, [](Args& a) { a.border = pxlBorderMirror; }},
+         {"null value", pxlStatusNullPointer, [](Args& a) { a.value = nullptr; }}},
+        [&](const Args& a) {
+            return pxliFilterMedianBorder_8u_C3R(a.src, src.step(), a.dst, dst.step(), a.roi, a.mask, a.border, a.value, a.buffer);
+        },
+        {&dst, &work});
+
+    // A 1x1 mask copies; in place it touches nothing at all.
+    pxltest::Rng rng(3);
+    src.fillRandom(rng);
+    ASSERT_EQ(pxliFilterMedianBorder_8u_C3R(src.data(), src.step(), dst.data(), dst.step(), roi, {1, 1}, pxlBorderReplicate, nullptr,
+                                            work.base()),
+              pxlStatusOk);
+    EXPECT_TRUE(pxltest::matchesEach(dst, [&](int x, int y, int c) { return src.at(x, y, c); }));
+    const pxltest::Watch watch({&dst, &work});
+    ASSERT_EQ(pxliFilterMedianBorder_8u_C3R(dst.data(), dst.step(), dst.data(), dst.step(), roi, {1, 1}, pxlBorderReplicate, nullptr,
+                                            work.base()),
+              pxlStatusOk);
+    EXPECT_TRUE(watch.unchanged());
+}
+
+}  // namespace
