@@ -1,6 +1,7 @@
 // Neighbourhood filters on a frame (1920x1080 unless --size says otherwise): 3x3 and 5x5 binomial
 // kernels on 8u (16s taps with a divisor) and on 32f, replicated borders, against OpenCV's filter2D
-// with the same kernel and border; box filters of 8u and 32f, C1 and C3, against OpenCV's blur; and a memcpy
+// with the same kernel and border; box filters of 8u and 32f, C1 and C3, against OpenCV's blur;
+// medians of 8u against OpenCV's medianBlur; and a memcpy
 // of the bytes read and written.
 #include "bench.hpp"
 
@@ -125,6 +126,39 @@ template <class T> void box(int side, int channels, [[maybe_unused]] pxlbench::M
 #endif
 }
 
+// The median of side n on 8u C1, replicated borders, against OpenCV's medianBlur (which
+// replicates too).
+void median(int side)
+{
+    const std::string name = "FilterMedianBorder " + std::to_string(side) + "x" + std::to_string(side) + " 8u C1" + pxlbench::sizeTag();
+    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), d(W, H, 1);
+        pxlbench::pixelValues<Pxl8u>(a);
+        const PxliSize roi{W, H}, mask{side, side};
+        int size = 0;
+        pxliFilterMedianBorderGetBufferSize(roi, mask, pxlDt8u, 1, &size);
+        std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
+        for (auto _ : s) {
+            benchmark::DoNotOptimize(
+                pxliFilterMedianBorder_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, roi, mask, pxlBorderReplicate, 0, buffer.data()));
+            benchmark::ClobberMemory();
+        }
+    });
+    const std::size_t bytes = static_cast<std::size_t>(W) * H;
+    pxlbench::addMemcpy(name, bytes, bytes);
+#ifdef PXL_BENCH_OPENCV
+    pxlbench::add(name, "peer", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), d(W, H, 1);
+        pxlbench::pixelValues<Pxl8u>(a);
+        cv::Mat ma = a.mat(pxlbench::k8uC1), md = d.mat(pxlbench::k8uC1);
+        for (auto _ : s) {
+            cv::medianBlur(ma, md, side);
+            benchmark::ClobberMemory();
+        }
+    });
+#endif
+}
+
 void filterBenchmarks()
 {
     for (int side : {3, 5, 15}) {
@@ -137,6 +171,7 @@ void filterBenchmarks()
         filter<Pxl8u>(side, pxlbench::k8uC1);
         filter<Pxl32f>(side, pxlbench::k32fC1);
     }
+    for (int side : {3, 5, 7, 15}) median(side);
 }
 
 const pxlbench::Registrar registrar(filterBenchmarks);

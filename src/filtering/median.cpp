@@ -348,7 +348,12 @@ PxlStatus filterMedianBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, P
             for (int r = -ay; r < ay; ++r) load(r);
             for (int y = 0; y < H; ++y) {
                 load(y + ay);
-                medianOutRow<T, L>(kernel, [&](int i) { return static_cast<const Loose<T>*>(slot(y - ay + i)); }, rowAt(pDst, dstStep, y), W, w);
+                const int first = (((y - ay) % kh) + kh) % kh;  // the slot of the window's top row
+                auto rows = [&](int i) {
+                    const int k = first + i < kh ? first + i : first + i - kh;
+                    return static_cast<const Loose<T>*>(ring + std::ptrdiff_t{k} * span * N);
+                };
+                medianOutRow<T, L>(kernel, rows, rowAt(pDst, dstStep, y), W, w);
             }
             return;
         }

@@ -29,7 +29,7 @@ struct CompareOp {
 template <class T> inline T lowerOf(T a, T b) { return b < a ? b : a; }
 template <class T> inline T upperOf(T a, T b) { return b < a ? a : b; }
 
-template <CompareOp Op, class T> inline void applyOp(T* v)
+template <CompareOp Op, class T> [[gnu::always_inline]] inline void applyOp(T* v)
 {
     if constexpr (Op.kind == Ex) {
         const T lo = lowerOf(v[Op.a], v[Op.b]), hi = upperOf(v[Op.a], v[Op.b]);
@@ -42,10 +42,14 @@ template <CompareOp Op, class T> inline void applyOp(T* v)
     }
 }
 
-// Every operation of Net on v, unrolled.
-template <const auto& Net, class T> inline void applyNetwork(T* v)
+// Every operation of Net on v, unrolled into the caller's loop, so that v stays in registers.
+template <const auto& Net, class T, std::size_t... I> [[gnu::always_inline]] inline void applyEach(T* v, std::index_sequence<I...>)
 {
-    [&]<std::size_t... I>(std::index_sequence<I...>) { (applyOp<Net[I]>(v), ...); }(std::make_index_sequence<std::size(Net)>{});
+    (applyOp<Net[I]>(v), ...);
+}
+template <const auto& Net, class T> [[gnu::always_inline]] inline void applyNetwork(T* v)
+{
+    applyEach<Net>(v, std::make_index_sequence<std::size(Net)>{});
 }
 
 // The median of five, left in entry 2.
