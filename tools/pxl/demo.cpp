@@ -384,6 +384,51 @@ void filterDemo(Context& ctx)
     });
 }
 
+// The median: salt-and-pepper noise on the gray image (one pixel in sixteen turned black or white,
+// where uniform noise from the noise family lands in the lowest or highest 16th), removed by a
+// 3x3 median; a 5x5 median of the colour image.
+void medianDemo(Context& ctx)
+{
+    const Image& gray = ctx.gray;
+    const PxliSize roi = gray.size();
+    Image noise(gray.width, gray.height, 1), noisy(gray.width, gray.height, 1), cleaned(gray.width, gray.height, 1);
+    pxliSet_8u_C1R(0, noise.data, noise.step, roi);
+    Pxl32u seed = 7;
+    pxliAddRandUniform_8u_C1IR(noise.data, noise.step, roi, 0, 255, &seed);
+    for (int y = 0; y < gray.height; ++y)
+        for (int x = 0; x < gray.width; ++x) {
+            const Pxl8u n = noise.data[y * noise.step + x], g = gray.data[y * gray.step + x];
+            noisy.data[y * noisy.step + x] = n < 8 ? 0 : n > 247 ? 255 : g;
+        }
+    ctx.save("median_noisy", noisy);
+    int size = 0;
+    pxliFilterMedianBorderGetBufferSize(roi, {3, 3}, pxlDt8u, 1, &size);
+    std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
+    auto clean = [&] {
+        pxliFilterMedianBorder_8u_C1R(noisy.data, noisy.step, cleaned.data, cleaned.step, roi, {3, 3}, pxlBorderReplicate, 0,
+                                      buffer.data());
+    };
+    clean();
+    ctx.save("median3_cleaned", cleaned);
+
+    const Image& src = ctx.rgb;
+    int colourSize = 0;
+    pxliFilterMedianBorderGetBufferSize(roi, {5, 5}, pxlDt8u, 3, &colourSize);
+    std::vector<Pxl8u> colourBuffer(static_cast<std::size_t>(colourSize));
+    Image median5(src.width, src.height, 3);
+    auto colour = [&] {
+        pxliFilterMedianBorder_8u_C3R(src.data, src.step, median5.data, median5.step, roi, {5, 5}, pxlBorderReplicate, nullptr,
+                                      colourBuffer.data());
+    };
+    colour();
+    ctx.save("median5_colour", median5);
+
+    const std::string text = std::to_string(src.width) + "x" + std::to_string(src.height);
+    const double px = static_cast<double>(src.width) * src.height;
+    ctx.time("pxliFilterMedianBorder_8u_C1R (3x3)", text, px, clean);
+    ctx.time("pxliFilterMedianBorder_8u_C3R (5x5)", text, px, colour);
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -399,6 +444,7 @@ const std::vector<Entry>& entries()
         {"noise and logic", noiseLogicDemo},
         {"statistics", statisticsDemo},
         {"filters", filterDemo},
+        {"median", medianDemo},
     };
     return all;
 }
