@@ -86,36 +86,29 @@ template <class T, int N, class Rows> void medianRow5(const Rows& rows, T* out, 
     }
 }
 
-// 3x3: each column of three sorted once; the median of nine is then the median of the largest of
-// the three smallest, the middle of the three middles and the smallest of the three largest.
+// 3x3: with each column of three sorted, the median of nine is the median of the largest of the
+// three smallest, the middle of the three middles and the smallest of the three largest. The
+// column sorts are made again for each window, which costs less than keeping them.
 template <class T, int N, class Rows> void medianSquare3(const Rows& rows, T* out, int width, const MedianWindow<T>&)
 {
-    T lo[(kMedianChunk + 2) * N], mid[(kMedianChunk + 2) * N], hi[(kMedianChunk + 2) * N];
-    for (int x0 = 0; x0 < width; x0 += kMedianChunk) {
-        const int n = std::min(kMedianChunk, width - x0) * N;
-        const auto *a = rows(0) + x0 * N, *b = rows(1) + x0 * N, *c = rows(2) + x0 * N;
-        for (int i = 0; i < n + 2 * N; ++i) {
-            T v[3] = {a[i], b[i], c[i]};
-            applyNetwork<kSortOf3>(v);
-            lo[i] = v[0];
-            mid[i] = v[1];
-            hi[i] = v[2];
-        }
-        T* o = out + x0 * N;
-        for (int j = 0; j < n; ++j) {
-            const T top = upperOf(upperOf(lo[j], lo[j + N]), lo[j + 2 * N]);
-            const T bottom = lowerOf(lowerOf(hi[j], hi[j + N]), hi[j + 2 * N]);
-            o[j] = medianOf3(top, medianOf3(mid[j], mid[j + N], mid[j + 2 * N]), bottom);
-        }
+    const auto *a = rows(0), *b = rows(1), *c = rows(2);
+    for (int j = 0; j < width * N; ++j) {
+        T v[9] = {a[j], b[j], c[j], a[j + N], b[j + N], c[j + N], a[j + 2 * N], b[j + 2 * N], c[j + 2 * N]};
+        applyNetwork<kSortOf3>(v);
+        applyNetwork<kSortOf3>(v + 3);
+        applyNetwork<kSortOf3>(v + 6);
+        const T top = upperOf(upperOf(v[0], v[3]), v[6]), bottom = lowerOf(lowerOf(v[2], v[5]), v[8]);
+        out[j] = medianOf3(top, medianOf3(v[1], v[4], v[7]), bottom);
     }
 }
 
 // 5x5: each column of five sorted once; the network of sorted columns gives the middle of 25.
 template <class T, int N, class Rows> void medianSquare5(const Rows& rows, T* out, int width, const MedianWindow<T>&)
 {
-    T col[5][(kMedianChunk + 4) * N];
-    for (int x0 = 0; x0 < width; x0 += kMedianChunk) {
-        const int n = std::min(kMedianChunk, width - x0) * N;
+    constexpr int kChunk = N == 1 ? 4 * kMedianChunk : kMedianChunk;
+    T col[5][(kChunk + 4) * N];
+    for (int x0 = 0; x0 < width; x0 += kChunk) {
+        const int n = std::min(kChunk, width - x0) * N;
         decltype(rows(0)) r[5];
         for (int i = 0; i < 5; ++i) r[i] = rows(i) + x0 * N;
         for (int i = 0; i < n + 4 * N; ++i) {
