@@ -250,6 +250,101 @@ void extendRow(const T* row, int W, int p0, int count, int kind, int flags, cons
     }
 }
 
+// Tall 8u medians out of place, in time that does not grow with the mask: the image runs in bands
+// of columns, and each column of a band keeps the histogram of its kh samples (256 fine bins and 16
+// coarse ones of 16 values each), updated by one sample out and one in per row. Along a row the
+// window's coarse histogram gains a column and loses one per pixel; the coarse bin of the median
+// follows from it, and the fine bins of that one coarse bin only are brought up to the window,
+// from where they were last used when that is near, else summed afresh. Returns false when the
+// buffer holds too few columns for that to pay.
+template <class L>
+bool medianInBands(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep, PxliSize roi, int kw, int kh, int kind, int flags,
+                   const Pxl8u* value, Pxl8u* memory, int64_t room)
+{
+    constexpr int N = L::mem, P = L::proc;
+    using Count = Loose<uint16_t>;
+    const int W = roi.width, H = roi.height, ax = kw >> 1, ay = kh >> 1, m = (kw * kh) >> 1;
+    const int64_t perColumn = int64_t{kh} * N + int64_t{P} * (256 + 16) * 2;
+    const int columns = static_cast<int>(std::min<int64_t>(room / perColumn, W + kw - 1));
+    if (columns < 2 * kw || int64_t{kw} * kh > 65535) return false;
+    Count* fine = reinterpret_cast<Count*>(memory);                         // [column][channel][256]
+    Count* coarse = fine + std::ptrdiff_t{columns} * P * 256;               // [column][channel][16]
+    Pxl8u* ring = reinterpret_cast<Pxl8u*>(coarse + std::ptrdiff_t{columns} * P * 16);  // kh rows of `columns` pixels
+    for (int x0 = 0; x0 < W; x0 += columns - (kw - 1)) {
+        const int width = std::min(columns - (kw - 1), W - x0), span = width + kw - 1;
+        std::fill_n(fine, std::ptrdiff_t{span} * P * 256, uint16_t{0});
+        std::fill_n(coarse, std::ptrdiff_t{span} * P * 16, uint16_t{0});
+        auto slot = [&](int r) { return ring + std::ptrdiff_t{((r % kh) + kh) % kh} * span * N; };
+        auto count = [&](const Pxl8u* row, int step) {
+            for (int p = 0; p < span; ++p)
+                for (int c = 0; c < P; ++c) {
+                    const int v = row[p * N + c];
+                    Count* f = fine + (std::ptrdiff_t{p} * P + c) * 256;
+                    Count* g = coarse + (std::ptrdiff_t{p} * P + c) * 16;
+                    f[v] = static_cast<uint16_t>(f[v] + step);
+                    g[v >> 4] = static_cast<uint16_t>(g[v >> 4] + step);
+                }
+        };
+        auto load = [&](int r) {
+            const bool real = (r >= 0 || flags & pxlBorderMemTop) && (r < H || flags & pxlBorderMemBottom);
+            const Pxl8u* row = real || kind == pxlBorderReplicate ? rowAt(src, srcStep, real ? r : std::clamp(r, 0, H - 1)) : nullptr;
+            extendRow<Pxl8u, N>(row, W, x0 - ax, span, kind, flags, value, reinterpret_cast<Loose<Pxl8u>*>(slot(r)));
+            count(slot(r), 1);
+        };
+        for (int r = -ay; r < ay; ++r) load(r);
+        for (int y = 0; y < H; ++y) {
+            if (y > 0) count(slot(y - ay - 1), -1);
+            load(y + ay);
+            Pxl8u* out = rowAt(dst, dstStep, y) + std::ptrdiff_t{N} * x0;
+            for (int c = 0; c < P; ++c) {
+                auto fineOf = [&](int p, int s) { return fine + (std::ptrdiff_t{p} * P + c) * 256 + 16 * s; };
+                auto coarseOf = [&](int p) { return coarse + (std::ptrdiff_t{p} * P + c) * 16; };
+                alignas(32) uint16_t window[16] = {};
+                alignas(32) uint16_t segment[16][16];
+                int current[16];  // the pixel each coarse bin's fine bins were brought to, or -1
+                std::fill_n(current, 16, -1);
+                for (int k = 0; k < kw; ++k)
+                    for (int t = 0; t < 16; ++t) window[t] = static_cast<uint16_t>(window[t] + coarseOf(k)[t]);
+                // The coarse bin of the median, and the samples in the bins below it: found once,
+                // then moved as the window slides (rarely by more than a bin).
+                int s = 0, below = 0;
+                for (int x = 0; x < width; ++x) {
+                    if (x > 0) {
+                        const Count *in = coarseOf(x + kw - 1), *gone = coarseOf(x - 1);
+                        int change = 0;
+                        for (int t = 0; t < 16; ++t) {
+                            const int d = in[t] - gone[t];
+                            window[t] = static_cast<uint16_t>(window[t] + d);
+                            change += t < s ? d : 0;
+                        }
+                        below += change;
+                    }
+                    while (below > m) below -= window[--s];
+                    while (below + window[s] <= m) below += window[s++];
+                    uint16_t* f = segment[s];
+                    if (current[s] < 0 || x - current[s] >= kw) {
+                        std::fill_n(f, 16, uint16_t{0});
+                        for (int k = 0; k < kw; ++k) {
+                            const Count* add = fineOf(x + k, s);
+                            for (int v = 0; v < 16; ++v) f[v] = static_cast<uint16_t>(f[v] + add[v]);
+                        }
+                    } else {
+                        for (int t = current[s] + 1; t <= x; ++t) {
+                            const Count *in = fineOf(t + kw - 1, s), *gone = fineOf(t - 1, s);
+                            for (int v = 0; v < 16; ++v) f[v] = static_cast<uint16_t>(f[v] + in[v] - gone[v]);
+                        }
+                    }
+                    current[s] = x;
+                    int v = 0, under = below;
+                    while (under + f[v] <= m) under += f[v++];
+                    out[x * N + c] = static_cast<Pxl8u>(16 * s + v);
+                }
+            }
+        }
+    }
+    return true;
+}
+
 // The sizes of the work buffer, in bytes.
 int64_t medianBufferBytes(PxliSize roi, PxliSize mask, int sampleBytes, int channels)
 {
@@ -330,6 +425,13 @@ PxlStatus filterMedianBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, P
     const MedianWindow<T> w{kw, kh, reinterpret_cast<Loose<T>*>(pBuffer + room)};
     const int ay = kh >> 1, ax = kw >> 1, span = W + kw - 1, kind = border & 15, flags = border & pxlBorderMemAll;
 
+    if constexpr (std::is_same_v<T, Pxl8u>) {
+        // Below 13 rows the histogram sliding along each row (two samples a row per pixel) costs
+        // less than the bands.
+        if (shape == Shape::Any && pSrc != pDst && kh >= 13 &&
+            medianInBands<L>(pSrc, srcStep, pDst, dstStep, roi, kw, kh, kind, flags, value, pBuffer, room))
+            return pxlStatusOk;
+    }
     withMedianKernel<T, N>(shape, [&](const auto& kernel) {
         if (int64_t{kh} * span * N * static_cast<int64_t>(sizeof(T)) <= room) {
             auto slot = [&](int r) { return ring + std::ptrdiff_t{((r % kh) + kh) % kh} * span * N; };

@@ -14,7 +14,7 @@ using pxltest::GuardedBuffer;
 using pxltest::GuardedImage;
 using pxltest::Rng;
 
-constexpr int kMargin = 6;
+constexpr int kMargin = 9;  // the largest overhang of the masks below
 
 template <class T, int N, bool Alpha>
 PxlStatus callMedian(const T* s, int ss, T* d, int ds, PxliSize roi, PxliSize mask, int border, const T* v, Pxl8u* buf)
@@ -60,14 +60,20 @@ template <class T> T middle(std::vector<T> s, bool bubble)
     return s[m];
 }
 
-template <class T, int N, bool Alpha> void medianCases(int cases, uint64_t seed)
+// Wide: tall masks on regions wide enough that 8u runs in bands of column histograms.
+template <class T, int N, bool Alpha> void medianCases(int cases, uint64_t seed, bool wide = false)
 {
     constexpr int P = Alpha ? 3 : N;
     Rng rng(seed);
-    const PxliSize masks[] = {{1, 1}, {1, 3}, {3, 1}, {1, 5}, {5, 1}, {3, 3}, {5, 5}, {3, 5}, {5, 3}, {7, 7}, {1, 7}, {9, 1}, {7, 3}, {11, 11}};
-    const PxliSize rois[] = {{1, 1}, {2, 3}, {5, 1}, {1, 6}, {4, 4}, {9, 7}, {23, 11}, {300 / N, 4}, {40, 20}, {3, 3}, {5, 5}, {7, 9}};
+    const std::vector<PxliSize> masks =
+        wide ? std::vector<PxliSize>{{13, 13}, {1, 15}, {3, 13}, {7, 17}}
+             : std::vector<PxliSize>{{1, 1}, {1, 3}, {3, 1}, {1, 5}, {5, 1}, {3, 3}, {5, 5}, {3, 5}, {5, 3}, {7, 7}, {1, 7}, {9, 1}, {7, 3}, {11, 11}};
+    const std::vector<PxliSize> rois =
+        wide ? std::vector<PxliSize>{{400, 20}, {N == 1 ? 300 : 900, 18}}
+             : std::vector<PxliSize>{{1, 1}, {2, 3}, {5, 1}, {1, 6}, {4, 4}, {9, 7}, {23, 11}, {300 / N, 4}, {40, 20}, {3, 3}, {5, 5}, {7, 9}};
     for (int n = 0; n < cases; ++n) {
-        const PxliSize mask = masks[rng.uniformInt(0, 13)], roi = rois[rng.uniformInt(0, 11)];
+        const PxliSize mask = masks[rng.uniformInt(0, static_cast<int>(masks.size()) - 1)];
+        const PxliSize roi = rois[rng.uniformInt(0, static_cast<int>(rois.size()) - 1)];
         const int border = (rng.chance(0.5) ? pxlBorderReplicate : pxlBorderConstant) | rng.uniformInt(0, 15) << 4;
         // Many equal samples now and then, where networks most often slip.
         const bool few = rng.chance(0.3), nan = std::is_floating_point_v<T> && !hasNetwork(mask) && rng.chance(0.5);
@@ -137,6 +143,14 @@ TEST(FilterMedianBorder, MediansOfEveryTypeAndLayout)
     medianCases<Pxl16s, 3, false>(60, 7);
     medianCases<Pxl16s, 4, true>(60, 8);
     medianCases<Pxl32f, 1, false>(300, 9);
+}
+
+TEST(FilterMedianBorder, WideMasksOfWideRegions)
+{
+    medianCases<Pxl8u, 1, false>(12, 10, true);
+    medianCases<Pxl8u, 3, false>(6, 11, true);
+    medianCases<Pxl8u, 4, true>(4, 12, true);
+    medianCases<Pxl16u, 1, false>(4, 13, true);
 }
 
 // Sizes worked by hand.
