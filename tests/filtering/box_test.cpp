@@ -101,55 +101,17 @@ template <class T, int N, bool Alpha> void boxCases(int cases, uint64_t seed, in
         const PxliSize mask = masks[rng.uniformInt(0, 10)], roi = rois[rng.uniformInt(0, 7)];
         const int border = rng.chance(0.05) ? 0xF0 : kinds[rng.uniformInt(0, 2)] | rng.uniformInt(0, 15) << 4;
         if (mask.width > 2 * kMargin || mask.height > 2 * kMargin) continue;
-        GuardedImage<T> img(roi.width + 2 * kMargin, roi.height + 2 * kMargin, N);
-        for (int y = 0; y < img.height(); ++y)
-            for (int i = 0; i < img.samplesPerRow(); ++i)
-                img.row(y)[i] = largestSample ? static_cast<T>(rng.uniformInt(0, largestSample)) : rng.sample<T>(0.3, false);
-        T value[4];
-        for (T& v : value) v = rng.sample<T>(0.5, false);
-        int size = 0;
-        ASSERT_EQ(pxliFilterBoxBorderGetBufferSize(roi, mask, pxltest::typeCode<T>(), N, &size), pxlStatusOk);
-        GuardedBuffer work(size, 1, 0, 64, 1);
-
-        GuardedImage<T> dst(roi.width, roi.height, N);
-        dst.fillRandom(rng);
-        const GuardedImage<T> before = dst;
-        const T* src = &img.at(kMargin, kMargin);
-        ASSERT_EQ((callBox<T, N, Alpha>(src, img.step(), dst.data(), dst.step(), roi, mask, border, value, work.base())), pxlStatusOk);
-        const filtmodel::Extension<T> ext{img, kMargin, roi, mask.width, mask.height, border, value};
         const int ax = (mask.width - 1) / 2, ay = (mask.height - 1) / 2;
-        auto want = [&](int x, int y, int c) {
-            if (c >= P) return before.at(x, y, c);
+        auto want = [&](const filtmodel::Extension<T>& ext, int x, int y, int c) {
             if constexpr (std::is_floating_point_v<T>) return floatMean<T>(ext, roi, mask, border, x, y, c);
             int64_t s = 0;
             for (int i = 0; i < mask.height; ++i)
                 for (int k = 0; k < mask.width; ++k) s += ext(x + k - ax, y + i - ay, c);
             return mean<T>(s, mask);
         };
-        const std::string what = std::string(pxltest::token<T>()) + (Alpha ? " AC4" : " C" + std::to_string(N)) + " mask " +
-                                 std::to_string(mask.width) + "x" + std::to_string(mask.height) + " roi " + std::to_string(roi.width) +
-                                 "x" + std::to_string(roi.height) + " border " + std::to_string(border);
-        ASSERT_TRUE(work.guardsIntact()) << what << ": work buffer overrun";
-        ASSERT_TRUE(pxltest::matchesEach(dst, want)) << what;
-
-        // In place, on a copy of the whole image: the region as out of place, the rest untouched.
-        GuardedImage<T> copy = img;
-        for (int y = 0; y < roi.height; ++y)
-            for (int x = 0; x < roi.width; ++x)
-                for (int c = P; c < N; ++c) copy.at(kMargin + x, kMargin + y, c) = before.at(x, y, c);
-        GuardedBuffer work2(size, 1, 0, 64, 2);
-        T* region = &copy.at(kMargin, kMargin);
-        ASSERT_EQ((callBox<T, N, Alpha>(region, copy.step(), region, copy.step(), roi, mask, border, value, work2.base())), pxlStatusOk);
-        ASSERT_TRUE(work2.guardsIntact()) << "work buffer overrun in place";
-        for (int y = 0; y < copy.height(); ++y)
-            for (int x = 0; x < copy.width(); ++x) {
-                const bool inside = x >= kMargin && x < kMargin + roi.width && y >= kMargin && y < kMargin + roi.height;
-                for (int c = 0; c < N; ++c) {
-                    const T got = copy.at(x, y, c);
-                    const T expect = inside ? dst.at(x - kMargin, y - kMargin, c) : img.at(x, y, c);
-                    ASSERT_TRUE(pxltest::sameBits(got, expect)) << what << ": got " << +got << ", want " << +expect << " in place at (" << x - kMargin << ", " << y - kMargin << ") channel " << c;
-                }
-            }
+        auto sample = [&] { return largestSample ? static_cast<T>(rng.uniformInt(0, largestSample)) : rng.sample<T>(0.3, false); };
+        filtmodel::borderCase<T, N, P>(rng, kMargin, roi, mask, border, pxliFilterBoxBorderGetBufferSize, sample, callBox<T, N, Alpha>,
+                                       want, pxltest::sameBits<T>);
     }
 }
 
@@ -227,24 +189,10 @@ TEST(FilterBoxBorder, BufferSizes)
 TEST(FilterBoxBorder, CheckOrder)
 {
     const PxliSize roi{9, 7}, mask{3, 3};
-    int size = 0;
-    ASSERT_EQ(pxliFilterBoxBorderGetBufferSize(roi, mask, pxlDt8u, 3, &size), pxlStatusOk);
-    GuardedImage<Pxl8u> src(roi.width, roi.height, 3), dst(roi.width, roi.height, 3);
-    GuardedBuffer work(size, 1, 0, 64, 0);
-    const Pxl8u value[3] = {1, 2, 3};
-    struct Args {
-        const Pxl8u* src;
-        int srcStep;
-        Pxl8u* dst;
-        int dstStep;
-        PxliSize roi, mask;
-        int border;
-        const Pxl8u* value;
-        Pxl8u* buffer;
-    };
-    const Args valid{src.data(), src.step(), dst.data(), dst.step(), roi, mask, pxlBorderConstant, value, work.base()};
+    filtmodel::BorderCall call(roi, mask, pxliFilterBoxBorderGetBufferSize);
+    using Args = filtmodel::BorderCall::Args;
     pxltest::expectCheckOrder<Args>(
-        valid,
+        call.valid,
         {{"null buffer", pxlStatusNullPointer, [](Args& a) { a.buffer = nullptr; }},
          {"source step 0", pxlStatusBadStep, [](Args& a) { a.srcStep = 0; }},
          {"destination step 0", pxlStatusBadStep, [](Args& a) { a.dstStep = 0; }},
@@ -255,11 +203,10 @@ TEST(FilterBoxBorder, CheckOrder)
         [](const Args& a) {
             return pxliFilterBoxBorder_8u_C3R(a.src, a.srcStep, a.dst, a.dstStep, a.roi, a.mask, a.border, a.value, a.buffer);
         },
-        {&dst, &work});
-    EXPECT_EQ(pxliFilterBoxBorder_8u_C3R(src.data(), src.step(), dst.data(), dst.step(), roi, mask, 2, nullptr, work.base()),
-              pxlStatusBadBorder);
-    EXPECT_EQ(pxliFilterBoxBorder_8u_C3R(src.data(), src.step(), dst.data(), dst.step(), roi, mask, 0xF6, nullptr, work.base()),
-              pxlStatusNullPointer);
+        {&call.dst, &call.work});
+    const Args& a = call.valid;
+    EXPECT_EQ(pxliFilterBoxBorder_8u_C3R(a.src, a.srcStep, a.dst, a.dstStep, roi, mask, 2, nullptr, a.buffer), pxlStatusBadBorder);
+    EXPECT_EQ(pxliFilterBoxBorder_8u_C3R(a.src, a.srcStep, a.dst, a.dstStep, roi, mask, 0xF6, nullptr, a.buffer), pxlStatusNullPointer);
 }
 
 // The 64f mean: exact for integer samples; for any samples, the running sums of the rule.

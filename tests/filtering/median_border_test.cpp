@@ -77,58 +77,15 @@ template <class T, int N, bool Alpha> void medianCases(int cases, uint64_t seed,
         const int border = (rng.chance(0.5) ? pxlBorderReplicate : pxlBorderConstant) | rng.uniformInt(0, 15) << 4;
         // Many equal samples now and then, where networks most often slip.
         const bool few = rng.chance(0.3), nan = std::is_floating_point_v<T> && !hasNetwork(mask) && rng.chance(0.5);
-        GuardedImage<T> img(roi.width + 2 * kMargin, roi.height + 2 * kMargin, N);
-        for (int y = 0; y < img.height(); ++y)
-            for (int i = 0; i < img.samplesPerRow(); ++i)
-                img.row(y)[i] = few ? static_cast<T>(rng.uniformInt(0, 3)) : rng.sample<T>(0.3, nan);
-        T value[4];
-        for (T& v : value) v = rng.sample<T>(0.5, false);
-        int size = 0;
-        ASSERT_EQ(pxliFilterMedianBorderGetBufferSize(roi, mask, pxltest::typeCode<T>(), N, &size), pxlStatusOk);
-        GuardedBuffer work(size, 1, 0, 64, 1);
-        GuardedImage<T> dst(roi.width, roi.height, N);
-        dst.fillRandom(rng);
-        const GuardedImage<T> before = dst;
-        const T* src = &img.at(kMargin, kMargin);
-        ASSERT_EQ((callMedian<T, N, Alpha>(src, img.step(), dst.data(), dst.step(), roi, mask, border, value, work.base())), pxlStatusOk);
-        const filtmodel::Extension<T> ext{img, kMargin, roi, mask.width, mask.height, border, value};
-        const std::string what = std::string(pxltest::token<T>()) + (Alpha ? " AC4" : " C" + std::to_string(N)) + " mask " +
-                                 std::to_string(mask.width) + "x" + std::to_string(mask.height) + " roi " + std::to_string(roi.width) +
-                                 "x" + std::to_string(roi.height) + " border " + std::to_string(border);
-        ASSERT_TRUE(work.guardsIntact()) << what << ": work buffer overrun";
-        for (int y = 0; y < roi.height; ++y)
-            for (int x = 0; x < roi.width; ++x)
-                for (int c = 0; c < N; ++c) {
-                    T want = before.at(x, y, c);
-                    if (c < P) {
-                        std::vector<T> s;
-                        for (int i = 0; i < mask.height; ++i)
-                            for (int k = 0; k < mask.width; ++k) s.push_back(ext(x + k - mask.width / 2, y + i - mask.height / 2, c));
-                        want = middle(s, std::is_floating_point_v<T> && !hasNetwork(mask));
-                    }
-                    ASSERT_TRUE(same(dst.at(x, y, c), want))
-                        << what << " at (" << x << ", " << y << ") channel " << c << ": got " << +dst.at(x, y, c) << ", want " << +want;
-                }
-        ASSERT_TRUE(dst.guardsIntact()) << what;
-
-        // In place, on a copy of the whole image: the region as out of place, the rest untouched.
-        GuardedImage<T> copy = img;
-        for (int y = 0; y < roi.height; ++y)
-            for (int x = 0; x < roi.width; ++x)
-                for (int c = P; c < N; ++c) copy.at(kMargin + x, kMargin + y, c) = before.at(x, y, c);
-        GuardedBuffer work2(size, 1, 0, 64, 2);
-        T* region = &copy.at(kMargin, kMargin);
-        ASSERT_EQ((callMedian<T, N, Alpha>(region, copy.step(), region, copy.step(), roi, mask, border, value, work2.base())), pxlStatusOk);
-        ASSERT_TRUE(work2.guardsIntact()) << what << ": work buffer overrun in place";
-        for (int y = 0; y < copy.height(); ++y)
-            for (int x = 0; x < copy.width(); ++x) {
-                const bool inside = x >= kMargin && x < kMargin + roi.width && y >= kMargin && y < kMargin + roi.height;
-                for (int c = 0; c < N; ++c) {
-                    const T got = copy.at(x, y, c), expect = inside ? dst.at(x - kMargin, y - kMargin, c) : img.at(x, y, c);
-                    ASSERT_TRUE(pxltest::sameBits(got, expect))
-                        << what << " in place at (" << x - kMargin << ", " << y - kMargin << ") channel " << c;
-                }
-            }
+        auto sample = [&] { return few ? static_cast<T>(rng.uniformInt(0, 3)) : rng.sample<T>(0.3, nan); };
+        auto want = [&](const filtmodel::Extension<T>& ext, int x, int y, int c) {
+            std::vector<T> s;
+            for (int i = 0; i < mask.height; ++i)
+                for (int k = 0; k < mask.width; ++k) s.push_back(ext(x + k - mask.width / 2, y + i - mask.height / 2, c));
+            return middle(s, std::is_floating_point_v<T> && !hasNetwork(mask));
+        };
+        filtmodel::borderCase<T, N, P>(rng, kMargin, roi, mask, border, pxliFilterMedianBorderGetBufferSize, sample, callMedian<T, N, Alpha>,
+                                       want, same<T>);
     }
 }
 
@@ -185,43 +142,30 @@ TEST(FilterMedianBorder, BufferSizes)
 TEST(FilterMedianBorder, CheckOrderAndCopies)
 {
     const PxliSize roi{9, 7}, mask{3, 3};
-    int size = 0;
-    ASSERT_EQ(pxliFilterMedianBorderGetBufferSize(roi, mask, pxlDt8u, 3, &size), pxlStatusOk);
-    GuardedImage<Pxl8u> src(roi.width, roi.height, 3), dst(roi.width, roi.height, 3);
-    GuardedBuffer work(size, 1, 0, 64, 0);
-    const Pxl8u value[3] = {1, 2, 3};
-    struct Args {
-        const Pxl8u* src;
-        Pxl8u* dst;
-        PxliSize roi, mask;
-        int border;
-        const Pxl8u* value;
-        Pxl8u* buffer;
+    filtmodel::BorderCall call(roi, mask, pxliFilterMedianBorderGetBufferSize);
+    using Args = filtmodel::BorderCall::Args;
+    auto median = [](const Args& a) {
+        return pxliFilterMedianBorder_8u_C3R(a.src, a.srcStep, a.dst, a.dstStep, a.roi, a.mask, a.border, a.value, a.buffer);
     };
-    const Args valid{src.data(), dst.data(), roi, mask, pxlBorderConstant, value, work.base()};
-    pxltest::expectCheckOrder<Args>(
-        valid,
-        {{"null buffer", pxlStatusNullPointer, [](Args& a) { a.buffer = nullptr; }},
-         {"width 0", pxlStatusBadSize, [](Args& a) { a.roi.width = 0; }},
-         {"mask 3x4", pxlStatusBadMaskSize, [](Args& a) { a.mask.height = 4; }},
-         {"mirrored", pxlStatusBadBorder, [](Args& a) { a.border = pxlBorderMirror; }},
-         {"null value", pxlStatusNullPointer, [](Args& a) { a.value = nullptr; }}},
-        [&](const Args& a) {
-            return pxliFilterMedianBorder_8u_C3R(a.src, src.step(), a.dst, dst.step(), a.roi, a.mask, a.border, a.value, a.buffer);
-        },
-        {&dst, &work});
+    pxltest::expectCheckOrder<Args>(call.valid,
+                                    {{"null buffer", pxlStatusNullPointer, [](Args& a) { a.buffer = nullptr; }},
+                                     {"width 0", pxlStatusBadSize, [](Args& a) { a.roi.width = 0; }},
+                                     {"mask 3x4", pxlStatusBadMaskSize, [](Args& a) { a.mask.height = 4; }},
+                                     {"mirrored", pxlStatusBadBorder, [](Args& a) { a.border = pxlBorderMirror; }},
+                                     {"null value", pxlStatusNullPointer, [](Args& a) { a.value = nullptr; }}},
+                                    median, {&call.dst, &call.work});
 
     // A 1x1 mask copies; in place it touches nothing at all.
     pxltest::Rng rng(3);
-    src.fillRandom(rng);
-    ASSERT_EQ(pxliFilterMedianBorder_8u_C3R(src.data(), src.step(), dst.data(), dst.step(), roi, {1, 1}, pxlBorderReplicate, nullptr,
-                                            work.base()),
-              pxlStatusOk);
-    EXPECT_TRUE(pxltest::matchesEach(dst, [&](int x, int y, int c) { return src.at(x, y, c); }));
-    const pxltest::Watch watch({&dst, &work});
-    ASSERT_EQ(pxliFilterMedianBorder_8u_C3R(dst.data(), dst.step(), dst.data(), dst.step(), roi, {1, 1}, pxlBorderReplicate, nullptr,
-                                            work.base()),
-              pxlStatusOk);
+    call.src.fillRandom(rng);
+    Args copy = call.valid;
+    copy.mask = {1, 1};
+    ASSERT_EQ(median(copy), pxlStatusOk);
+    EXPECT_TRUE(pxltest::matchesEach(call.dst, [&](int x, int y, int c) { return call.src.at(x, y, c); }));
+    const pxltest::Watch watch({&call.dst, &call.work});
+    copy.src = copy.dst;
+    copy.srcStep = copy.dstStep;
+    ASSERT_EQ(median(copy), pxlStatusOk);
     EXPECT_TRUE(watch.unchanged());
 }
 

@@ -324,6 +324,14 @@ void statisticsDemo(Context& ctx)
     pxliFree(spec);
 }
 
+// Runs fn once, saves the image it made, and times it on the image's size.
+template <class F> void makeSaveTime(Context& ctx, const std::string& file, const Image& made, const std::string& label, F fn)
+{
+    fn();
+    ctx.save(file, made);
+    ctx.time(label, std::to_string(made.width) + "x" + std::to_string(made.height), static_cast<double>(made.width) * made.height, fn);
+}
+
 // The general filter: the colour image sharpened (integer taps) and the gray image embossed
 // (the difference across the diagonal around mid-gray), both with replicated borders; the box
 // filter's mean of the colour image.
@@ -364,16 +372,13 @@ void filterDemo(Context& ctx)
     pxliFilterBoxBorderGetBufferSize(roi, boxMask, pxlDt8u, 3, &boxSize);
     std::vector<Pxl8u> boxBuffer(static_cast<std::size_t>(boxSize));
     Image blurred(src.width, src.height, 3);
-    auto box = [&] {
+    makeSaveTime(ctx, "filter_box15", blurred, "pxliFilterBoxBorder_8u_C3R (15x15)", [&] {
         pxliFilterBoxBorder_8u_C3R(src.data, src.step, blurred.data, blurred.step, roi, boxMask, pxlBorderMirror, nullptr,
                                    boxBuffer.data());
-    };
-    box();
-    ctx.save("filter_box15", blurred);
+    });
 
     const std::string size = std::to_string(src.width) + "x" + std::to_string(src.height);
     const double px = static_cast<double>(src.width) * src.height;
-    ctx.time("pxliFilterBoxBorder_8u_C3R (15x15)", size, px, box);
     ctx.time("pxliFilterBorder_8u_C3R (3x3 sharpen)", size, px, [&] {
         pxliFilterBorder_8u_C3R(src.data, src.step, sharpened.data, sharpened.step, roi, pxlBorderReplicate, nullptr, sharp,
                                 sharpBuffer.data());
@@ -404,29 +409,20 @@ void medianDemo(Context& ctx)
     int size = 0;
     pxliFilterMedianBorderGetBufferSize(roi, {3, 3}, pxlDt8u, 1, &size);
     std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
-    auto clean = [&] {
+    makeSaveTime(ctx, "median3_cleaned", cleaned, "pxliFilterMedianBorder_8u_C1R (3x3)", [&] {
         pxliFilterMedianBorder_8u_C1R(noisy.data, noisy.step, cleaned.data, cleaned.step, roi, {3, 3}, pxlBorderReplicate, 0,
                                       buffer.data());
-    };
-    clean();
-    ctx.save("median3_cleaned", cleaned);
+    });
 
     const Image& src = ctx.rgb;
     int colourSize = 0;
     pxliFilterMedianBorderGetBufferSize(roi, {5, 5}, pxlDt8u, 3, &colourSize);
     std::vector<Pxl8u> colourBuffer(static_cast<std::size_t>(colourSize));
     Image median5(src.width, src.height, 3);
-    auto colour = [&] {
+    makeSaveTime(ctx, "median5_colour", median5, "pxliFilterMedianBorder_8u_C3R (5x5)", [&] {
         pxliFilterMedianBorder_8u_C3R(src.data, src.step, median5.data, median5.step, roi, {5, 5}, pxlBorderReplicate, nullptr,
                                       colourBuffer.data());
-    };
-    colour();
-    ctx.save("median5_colour", median5);
-
-    const std::string text = std::to_string(src.width) + "x" + std::to_string(src.height);
-    const double px = static_cast<double>(src.width) * src.height;
-    ctx.time("pxliFilterMedianBorder_8u_C1R (3x3)", text, px, clean);
-    ctx.time("pxliFilterMedianBorder_8u_C3R (5x5)", text, px, colour);
+    });
 }
 
 }  // namespace
