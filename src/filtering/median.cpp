@@ -8,6 +8,7 @@
 // 16s) or the partial bubble selection (float, which fixes where a NaN goes).
 #include "filtering/filtering.hpp"
 #include "filtering/median_networks.hpp"
+#include "filtering/ring.hpp"
 
 #include "exchange/border.hpp"
 #include "exchange/kernels.hpp"
@@ -20,13 +21,6 @@
 #include <type_traits>
 
 namespace pxl::filt {
-
-// Samples in the work buffer, which may start at any address, are read and written as samples of
-// alignment 1.
-template <class T> struct Unaligned {
-    typedef T type __attribute__((aligned(1)));
-};
-template <class T> using Loose = typename Unaligned<T>::type;
 
 // What a row kernel needs besides its rows: the mask, and room for one window's samples.
 template <class T> struct MedianWindow {
@@ -228,28 +222,6 @@ template <class T, int N, class Run> void withMedianKernel(Shape shape, const Ru
     }
 }
 
-// The extended samples of image row `row` (or of the constant, where row is null) from pixel p0
-// on, count pixels: beyond a side the caller's memory where its flag is set, else the edge pixel
-// repeated or the constant.
-template <class T, int N>
-void extendRow(const T* row, int W, int p0, int count, int kind, int flags, const T* value, Loose<T>* dst)
-{
-    for (int k = 0; k < count;) {
-        const int p = p0 + k;
-        const bool outLeft = p < 0 && !(flags & pxlBorderMemLeft), outRight = p >= W && !(flags & pxlBorderMemRight);
-        if (row && !outLeft && !outRight) {
-            // The run of real pixels up to the right edge (or the end of the count).
-            const int end = std::min(p0 + count, flags & pxlBorderMemRight ? p0 + count : W);
-            std::memcpy(dst + std::ptrdiff_t{N} * k, row + std::ptrdiff_t{N} * p, sizeof(T) * N * static_cast<std::size_t>(end - p));
-            k += end - p;
-            continue;
-        }
-        const T* px = !row || kind == pxlBorderConstant ? value : row + (outLeft ? 0 : std::ptrdiff_t{N} * (W - 1));
-        std::memcpy(dst + std::ptrdiff_t{N} * k, px, sizeof(T) * N);
-        ++k;
-    }
-}
-
 // Tall 8u medians out of place, in time that does not grow with the mask: the image runs in bands
 // of columns, and each column of a band keeps the histogram of its kh samples (256 fine bins and 16
 // coarse ones of 16 values each), updated by one sample out and one in per row. Along a row the
@@ -258,24 +230,22 @@ void extendRow(const T* row, int W, int p0, int count, int kind, int flags, cons
 // from where they were last used when that is near, else summed afresh. Returns false when the
 // buffer holds too few columns for that to pay.
 template <class L>
-bool medianInBands(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep, PxliSize roi, int kw, int kh, int kind, int flags,
-                   const Pxl8u* value, Pxl8u* memory, int64_t room)
+bool medianInBands(const RingSource<Pxl8u>& source, Pxl8u* dst, int dstStep, Pxl8u* memory, int64_t room)
 {
     constexpr int N = L::mem, P = L::proc;
     using Count = Loose<uint16_t>;
-    const int W = roi.width, H = roi.height, ax = kw >> 1, ay = kh >> 1, m = (kw * kh) >> 1;
+    const int W = source.roi.width, kw = source.kw, kh = source.kh, m = (kw * kh) >> 1;
     const int64_t perColumn = int64_t{kh} * N + int64_t{P} * (256 + 16) * 2;
     const int columns = static_cast<int>(std::min<int64_t>(room / perColumn, W + kw - 1));
     if (columns < 2 * kw || int64_t{kw} * kh > 65535) return false;
     Count* fine = reinterpret_cast<Count*>(memory);                         // [column][channel][256]
     Count* coarse = fine + std::ptrdiff_t{columns} * P * 256;               // [column][channel][16]
-    Pxl8u* ring = reinterpret_cast<Pxl8u*>(coarse + std::ptrdiff_t{columns} * P * 16);  // kh rows of `columns` pixels
+    auto* ring = reinterpret_cast<Loose<Pxl8u>*>(coarse + std::ptrdiff_t{columns} * P * 16);  // kh rows of `columns` pixels
     for (int x0 = 0; x0 < W; x0 += columns - (kw - 1)) {
         const int width = std::min(columns - (kw - 1), W - x0), span = width + kw - 1;
         std::fill_n(fine, std::ptrdiff_t{span} * P * 256, uint16_t{0});
         std::fill_n(coarse, std::ptrdiff_t{span} * P * 16, uint16_t{0});
-        auto slot = [&](int r) { return ring + std::ptrdiff_t{((r % kh) + kh) % kh} * span * N; };
-        auto count = [&](const Pxl8u* row, int step) {
+        auto count = [&](const Loose<Pxl8u>* row, int step) {
             for (int p = 0; p < span; ++p)
                 for (int c = 0; c < P; ++c) {
                     const int v = row[p * N + c];
@@ -285,16 +255,9 @@ bool medianInBands(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep, PxliS
                     g[v >> 4] = static_cast<uint16_t>(g[v >> 4] + step);
                 }
         };
-        auto load = [&](int r) {
-            const bool real = (r >= 0 || flags & pxlBorderMemTop) && (r < H || flags & pxlBorderMemBottom);
-            const Pxl8u* row = real || kind == pxlBorderReplicate ? rowAt(src, srcStep, real ? r : std::clamp(r, 0, H - 1)) : nullptr;
-            extendRow<Pxl8u, N>(row, W, x0 - ax, span, kind, flags, value, reinterpret_cast<Loose<Pxl8u>*>(slot(r)));
-            count(slot(r), 1);
-        };
-        for (int r = -ay; r < ay; ++r) load(r);
-        for (int y = 0; y < H; ++y) {
-            if (y > 0) count(slot(y - ay - 1), -1);
-            load(y + ay);
+        auto enter = [&](const Loose<Pxl8u>* row) { count(row, 1); };
+        auto leave = [&](const Loose<Pxl8u>* row) { count(row, -1); };
+        slideRows<Pxl8u, N>(source, x0, width, ring, enter, leave, [&](int y, const auto&) {
             Pxl8u* out = rowAt(dst, dstStep, y) + std::ptrdiff_t{N} * x0;
             for (int c = 0; c < P; ++c) {
                 auto fineOf = [&](int p, int s) { return fine + (std::ptrdiff_t{p} * P + c) * 256 + 16 * s; };
@@ -340,7 +303,7 @@ bool medianInBands(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep, PxliS
                     out[x * N + c] = static_cast<Pxl8u>(16 * s + v);
                 }
             }
-        }
+        });
     }
     return true;
 }
@@ -423,33 +386,17 @@ PxlStatus filterMedianBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, P
     const int64_t room = total - scratchBytes;
     Loose<T>* ring = reinterpret_cast<Loose<T>*>(pBuffer);
     const MedianWindow<T> w{kw, kh, reinterpret_cast<Loose<T>*>(pBuffer + room)};
-    const int ay = kh >> 1, ax = kw >> 1, span = W + kw - 1, kind = border & 15, flags = border & pxlBorderMemAll;
+    const int ax = kw >> 1, span = W + kw - 1, kind = border & 15, flags = border & pxlBorderMemAll;
+    const RingSource<T> source{pSrc, srcStep, roi, kw, kh, kind, flags, value};
 
     if constexpr (std::is_same_v<T, Pxl8u>) {
         // Below 13 rows the histogram sliding along each row (two samples a row per pixel) costs
         // less than the bands.
-        if (shape == Shape::Any && pSrc != pDst && kh >= 13 &&
-            medianInBands<L>(pSrc, srcStep, pDst, dstStep, roi, kw, kh, kind, flags, value, pBuffer, room))
-            return pxlStatusOk;
+        if (shape == Shape::Any && pSrc != pDst && kh >= 13 && medianInBands<L>(source, pDst, dstStep, pBuffer, room)) return pxlStatusOk;
     }
     withMedianKernel<T, N>(shape, [&](const auto& kernel) {
         if (int64_t{kh} * span * N * static_cast<int64_t>(sizeof(T)) <= room) {
-            auto slot = [&](int r) { return ring + std::ptrdiff_t{((r % kh) + kh) % kh} * span * N; };
-            auto load = [&](int r) {
-                const bool real = (r >= 0 || flags & pxlBorderMemTop) && (r < H || flags & pxlBorderMemBottom);
-                const T* row = real || kind == pxlBorderReplicate ? rowAt(pSrc, srcStep, real ? r : std::clamp(r, 0, H - 1)) : nullptr;
-                extendRow<T, N>(row, W, -ax, span, kind, flags, value, slot(r));
-            };
-            for (int r = -ay; r < ay; ++r) load(r);
-            for (int y = 0; y < H; ++y) {
-                load(y + ay);
-                const int first = (((y - ay) % kh) + kh) % kh;  // the slot of the window's top row
-                auto rows = [&](int i) {
-                    const int k = first + i < kh ? first + i : first + i - kh;
-                    return static_cast<const Loose<T>*>(ring + std::ptrdiff_t{k} * span * N);
-                };
-                medianOutRow<T, L>(kernel, rows, rowAt(pDst, dstStep, y), W, w);
-            }
+            slideRows<T, N>(source, ring, [&](int y, const auto& rows) { medianOutRow<T, L>(kernel, rows, rowAt(pDst, dstStep, y), W, w); });
             return;
         }
         // One row high, with no room for a whole row: each row in stretches, the last kw - 1

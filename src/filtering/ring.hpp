@@ -1,0 +1,86 @@
+// Windows over a ring of extended rows: the rows under the current output row's windows are kept,
+// made whole by the border rule, in a ring in the work buffer. Each output row is made from the
+// ring alone, so the driver serves filters in place too (an image row is copied before the output
+// row that replaces it is written), and it needs kh rows of buffer whatever the region's size.
+#pragma once
+
+#include "frame/image.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+namespace pxl::filt {
+
+// Samples in the work buffer, which may start at any address, are read and written as samples of
+// alignment 1.
+template <class T> struct Unaligned {
+    typedef T type __attribute__((aligned(1)));
+};
+template <class T> using Loose = typename Unaligned<T>::type;
+
+// The extended samples of image row `row` (or of the constant, where row is null) from pixel p0
+// on, count pixels: beyond a side the caller's memory where its flag is set, else the edge pixel
+// repeated or the constant (kind pxlBorderReplicate or pxlBorderConstant).
+template <class T, int N>
+void extendRow(const T* row, int W, int p0, int count, int kind, int flags, const T* value, Loose<T>* dst)
+{
+    for (int k = 0; k < count;) {
+        const int p = p0 + k;
+        const bool outLeft = p < 0 && !(flags & pxlBorderMemLeft), outRight = p >= W && !(flags & pxlBorderMemRight);
+        if (row && !outLeft && !outRight) {
+            // The run of real pixels up to the right edge (or the end of the count).
+            const int end = std::min(p0 + count, flags & pxlBorderMemRight ? p0 + count : W);
+            std::memcpy(dst + std::ptrdiff_t{N} * k, row + std::ptrdiff_t{N} * p, sizeof(T) * N * static_cast<std::size_t>(end - p));
+            k += end - p;
+            continue;
+        }
+        const T* px = !row || kind == pxlBorderConstant ? value : row + (outLeft ? 0 : std::ptrdiff_t{N} * (W - 1));
+        std::memcpy(dst + std::ptrdiff_t{N} * k, px, sizeof(T) * N);
+        ++k;
+    }
+}
+
+// Where the windows come from: the source region and its border word (kind and memory flags),
+// and the mask, anchored at its centre (kw >> 1, kh >> 1).
+template <class T> struct RingSource {
+    const T* src;
+    int srcStep;
+    PxliSize roi;
+    int kw, kh, kind, flags;
+    const T* value;  // one pixel, for the constant kind
+};
+
+// For output rows 0 to H - 1 of the columns x0 to x0 + width - 1: enter(row) for each extended row
+// as it comes into the ring, leave(row) as it goes, and out(y, rows) with rows(i) the first sample
+// of window row i of the first output pixel. The ring holds kh rows of width + kw - 1 pixels.
+template <class T, int N, class Enter, class Leave, class Out>
+void slideRows(const RingSource<T>& s, int x0, int width, Loose<T>* ring, Enter enter, Leave leave, Out out)
+{
+    const int H = s.roi.height, kh = s.kh, ay = kh >> 1, span = width + s.kw - 1;
+    auto slot = [&](int r) { return ring + std::ptrdiff_t{((r % kh) + kh) % kh} * span * N; };
+    auto load = [&](int r) {
+        const bool real = (r >= 0 || s.flags & pxlBorderMemTop) && (r < H || s.flags & pxlBorderMemBottom);
+        const T* row = real || s.kind == pxlBorderReplicate ? rowAt(s.src, s.srcStep, real ? r : std::clamp(r, 0, H - 1)) : nullptr;
+        extendRow<T, N>(row, s.roi.width, x0 - (s.kw >> 1), span, s.kind, s.flags, s.value, slot(r));
+        enter(static_cast<const Loose<T>*>(slot(r)));
+    };
+    for (int r = -ay; r < ay; ++r) load(r);
+    for (int y = 0; y < H; ++y) {
+        if (y > 0) leave(static_cast<const Loose<T>*>(slot(y - ay - 1)));
+        load(y + ay);
+        const int first = (((y - ay) % kh) + kh) % kh;  // the slot of the windows' top row
+        out(y, [&](int i) {
+            const int k = first + i < kh ? first + i : first + i - kh;
+            return static_cast<const Loose<T>*>(ring + std::ptrdiff_t{k} * span * N);
+        });
+    }
+}
+
+template <class T, int N, class Out> void slideRows(const RingSource<T>& s, Loose<T>* ring, Out out)
+{
+    auto none = [](const Loose<T>*) {};
+    slideRows<T, N>(s, 0, s.roi.width, ring, none, none, out);
+}
+
+}  // namespace pxl::filt
