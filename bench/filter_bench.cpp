@@ -1,7 +1,7 @@
 // Neighbourhood filters on a frame (1920x1080 unless --size says otherwise): 3x3 and 5x5 binomial
 // kernels on 8u (16s taps with a divisor) and on 32f, replicated borders, against OpenCV's filter2D
 // with the same kernel and border; box filters of 8u and 32f, C1 and C3, against OpenCV's blur;
-// medians of 8u against OpenCV's medianBlur; and a memcpy
+// medians of 8u against OpenCV's medianBlur; the 3x3 Laplace against filter2D; and a memcpy
 // of the bytes read and written.
 #include "bench.hpp"
 
@@ -159,6 +159,40 @@ void median(int side)
 #endif
 }
 
+// The 3x3 Laplace (9c - S) on 8u C1, replicated borders, against OpenCV's filter2D with the same
+// kernel (8u out, saturated).
+void laplace()
+{
+    const std::string name = "FilterLaplaceBorder 3x3 8u C1" + pxlbench::sizeTag();
+    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), d(W, H, 1);
+        pxlbench::pixelValues<Pxl8u>(a);
+        int size = 0;
+        pxliFilterLaplaceBorderGetBufferSize({W, H}, pxlMask3x3, pxlDt8u, pxlDt8u, 1, &size);
+        std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
+        for (auto _ : s) {
+            benchmark::DoNotOptimize(pxliFilterLaplaceBorder_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, pxlMask3x3,
+                                                                    pxlBorderReplicate, 0, buffer.data()));
+            benchmark::ClobberMemory();
+        }
+    });
+    const std::size_t bytes = static_cast<std::size_t>(W) * H;
+    pxlbench::addMemcpy(name, bytes, bytes);
+#ifdef PXL_BENCH_OPENCV
+    pxlbench::add(name, "peer", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), d(W, H, 1);
+        pxlbench::pixelValues<Pxl8u>(a);
+        cv::Mat ma = a.mat(pxlbench::k8uC1), md = d.mat(pxlbench::k8uC1);
+        cv::Mat k(3, 3, CV_32F, cv::Scalar(-1.0f));
+        k.at<float>(1, 1) = 8.0f;
+        for (auto _ : s) {
+            cv::filter2D(ma, md, -1, k, cv::Point(-1, -1), 0, cv::BORDER_REPLICATE);
+            benchmark::ClobberMemory();
+        }
+    });
+#endif
+}
+
 void filterBenchmarks()
 {
     for (int side : {3, 5, 15}) {
@@ -172,6 +206,7 @@ void filterBenchmarks()
         filter<Pxl32f>(side, pxlbench::k32fC1);
     }
     for (int side : {3, 5, 7, 15}) median(side);
+    laplace();
 }
 
 const pxlbench::Registrar registrar(filterBenchmarks);

@@ -181,6 +181,56 @@ PxlStatus pxliFilterMedianWeightedCenter3x3_8u_C1R(const Pxl8u* pSrc, int srcSte
 /* The median of three planes, pixel by pixel. */
 PxlStatus pxliMedian_8u_P3C1R(const Pxl8u* const ppSrc[3], int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize);
 
+/* Fixed kernels that weigh the centre c against the sum S of the window (anchor at the centre),
+ * with replicated or constant borders as for the median (one sample per channel at pBorderValue,
+ * by value for C1; AC4 leaves the fourth sample as it was):
+ *   Laplace 3x3 and high-pass 3x3: 9c - S;  high-pass 5x5: 25c - S;
+ *   Laplace 5x5: rows weighted -1 -3 -4 -3 -1 / -3 0 6 0 -3 / -4 6 20 6 -4 / -3 0 6 0 -3 / -1 -3 -4 -3 -1;
+ *   sharpen 3x3: (17c - S) / 8, to nearest with ties to even.
+ * 8u and 16s are summed exactly and saturated; 32f sums each window row from the left (a weight of
+ * 0 adds nothing), then the rows from the top, and finishes as 9.0f * c - S, 25.0f * c - S or
+ * (17.0f * c - S) * 0.125f. pSrc equal to pDst filters in place. The size query takes the mask
+ * code, the source and destination types (the same: 8u, 16s or 32f) and the channels (1, 3, 4). */
+PxlStatus pxliFilterLaplaceBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterHipassBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterSharpenBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterLaplaceBorder_8u_C1R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_8u_C3R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl8u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_8u_C4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl8u pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_8u_AC4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl8u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_16s_C4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl16s pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_16s_AC4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterLaplaceBorder_32f_AC4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_8u_C1R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_8u_C3R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl8u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_8u_C4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl8u pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_8u_AC4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl8u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_16s_C4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl16s pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_16s_AC4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterHipassBorder_32f_AC4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_8u_C1R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_8u_C3R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl8u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_8u_C4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl8u pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_8u_AC4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl8u pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_16s_C4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl16s pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_16s_AC4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl16s pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[3], Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[4], Pxl8u* pBuffer);
+PxlStatus pxliFilterSharpenBorder_32f_AC4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[3], Pxl8u* pBuffer);
+
 #ifdef __cplusplus
 }
 #endif

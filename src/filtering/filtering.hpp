@@ -48,6 +48,18 @@ PxlStatus filterMedianColor(const T* pSrc, int srcStep, T* pDst, int dstStep, Px
 PxlStatus filterMedianWeightedCenter3x3(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliSize dstRoiSize, int weight);
 PxlStatus median8uP3C1(const Pxl8u* const ppSrc[3], int srcStep, Pxl8u* pDst, int dstStep, PxliSize roiSize);
 
+// Laplace (group 0), high-pass (1) and sharpening (2).
+PxlStatus filterLaplaceBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels,
+                                           int* pBufferSize);
+PxlStatus filterSharpenBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels,
+                                           int* pBufferSize);
+template <int Group, class T, class L>
+PxlStatus fixedFilterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border,
+                            const T* pBorderValue, Pxl8u* pBuffer);
+template <int Group, class T>
+PxlStatus fixedFilterBorderC1(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border,
+                              T value, Pxl8u* pBuffer);
+
 // Running window sums along rows and columns.
 template <class S, class L>
 PxlStatus sumWindowRow(const S* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roi, int maskSize, int anchor);

@@ -184,22 +184,10 @@ template <class T, int N, class Rows> void medianHistogram(const Rows& rows, T* 
     }
 }
 
-// One output row of layout L from its rows: straight into out where every sample is filtered,
-// else through a stretch of whole pixels of which the first P samples are kept.
 template <class T, class L, class Kernel, class Rows>
 void medianOutRow(const Kernel& kernel, const Rows& rows, T* out, int width, const MedianWindow<T>& w)
 {
-    constexpr int N = L::mem;
-    if constexpr (N == L::proc) {
-        kernel(rows, out, width, w);
-    } else {
-        T stretch[kMedianChunk * N];
-        for (int x0 = 0; x0 < width; x0 += kMedianChunk) {
-            const int len = std::min(kMedianChunk, width - x0);
-            kernel([&](int i) { return rows(i) + x0 * N; }, stretch, len, w);
-            krnCopyPixels<T, L>(stretch, out + x0 * N, len);
-        }
-    }
+    layoutRow<T, L>([&](const auto& r, T* o, int n) { kernel(r, o, n, w); }, rows, out, width);
 }
 
 // Calls run(kernel) with the row kernel of the mask's shape for samples T, N to a pixel.

@@ -4,6 +4,7 @@
 // row that replaces it is written), and it needs kh rows of buffer whatever the region's size.
 #pragma once
 
+#include "exchange/kernels.hpp"
 #include "frame/image.hpp"
 
 #include <algorithm>
@@ -81,6 +82,24 @@ template <class T, int N, class Out> void slideRows(const RingSource<T>& s, Loos
 {
     auto none = [](const Loose<T>*) {};
     slideRows<T, N>(s, 0, s.roi.width, ring, none, none, out);
+}
+
+// One output row of layout L from its window rows: kernel(rows, out, width) writes every sample of
+// each pixel, straight into the row where every sample is filtered, else (AC4) into a stretch of
+// whole pixels of which the first three samples are kept.
+template <class T, class L, class Kernel, class Rows> void layoutRow(const Kernel& kernel, const Rows& rows, T* out, int width)
+{
+    constexpr int N = L::mem, kStretch = 256;
+    if constexpr (N == L::proc) {
+        kernel(rows, out, width);
+    } else {
+        T stretch[kStretch * N];
+        for (int x0 = 0; x0 < width; x0 += kStretch) {
+            const int len = std::min(kStretch, width - x0);
+            kernel([&](int i) { return rows(i) + x0 * N; }, stretch, len);
+            krnCopyPixels<T, L>(stretch, out + x0 * N, len);
+        }
+    }
 }
 
 }  // namespace pxl::filt

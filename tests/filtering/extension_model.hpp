@@ -50,12 +50,12 @@ using SizeQuery = PxlStatus (*)(PxliSize, PxliSize, PxlDataType, int, int*);
 
 // One random case of a filter with borders, N samples a pixel of which the first P are filtered:
 // the region lies `margin` pixels into a source of sample() values, the constant is random, and the
-// work buffer has exactly the queried size (at an odd address). Each output sample must be
+// work buffer has exactly the size query(roi, mask, type, N, &size) gives (at an odd address). Each output sample must be
 // same() as want(extension, x, y, c), the rest of each pixel as it was; then the same call in
 // place, on a copy of the source, must give the same region and leave the rest alone.
-template <class T, int N, int P, class Sample, class Call, class Want, class Same>
-void borderCase(pxltest::Rng& rng, int margin, PxliSize roi, PxliSize mask, int border, SizeQuery query, Sample sample, Call call,
-                Want want, Same same)
+template <class T, int N, int P, class Query, class Sample, class Call, class Want, class Same>
+void borderCase(pxltest::Rng& rng, int margin, PxliSize roi, PxliSize mask, int border, Query query, Sample sample, Call call, Want want,
+                Same same)
 {
     pxltest::GuardedImage<T> img(roi.width + 2 * margin, roi.height + 2 * margin, N);
     for (int y = 0; y < img.height(); ++y)

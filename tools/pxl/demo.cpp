@@ -334,7 +334,7 @@ template <class F> void makeSaveTime(Context& ctx, const std::string& file, cons
 
 // The general filter: the colour image sharpened (integer taps) and the gray image embossed
 // (the difference across the diagonal around mid-gray), both with replicated borders; the box
-// filter's mean of the colour image.
+// filter's mean of the colour image; the Laplace of the gray image.
 void filterDemo(Context& ctx)
 {
     const Image& src = ctx.rgb;
@@ -375,6 +375,16 @@ void filterDemo(Context& ctx)
     makeSaveTime(ctx, "filter_box15", blurred, "pxliFilterBoxBorder_8u_C3R (15x15)", [&] {
         pxliFilterBoxBorder_8u_C3R(src.data, src.step, blurred.data, blurred.step, roi, boxMask, pxlBorderMirror, nullptr,
                                    boxBuffer.data());
+    });
+
+    // The 3x3 Laplace of the gray image: an edge map, saturated at 0 and 255.
+    int laplaceSize = 0;
+    pxliFilterLaplaceBorderGetBufferSize(roi, pxlMask3x3, pxlDt8u, pxlDt8u, 1, &laplaceSize);
+    std::vector<Pxl8u> laplaceBuffer(static_cast<std::size_t>(laplaceSize));
+    Image edges(ctx.gray.width, ctx.gray.height, 1);
+    makeSaveTime(ctx, "filter_laplace", edges, "pxliFilterLaplaceBorder_8u_C1R (3x3)", [&] {
+        pxliFilterLaplaceBorder_8u_C1R(ctx.gray.data, ctx.gray.step, edges.data, edges.step, roi, pxlMask3x3, pxlBorderReplicate, 0,
+                                       laplaceBuffer.data());
     });
 
     const std::string size = std::to_string(src.width) + "x" + std::to_string(src.height);
