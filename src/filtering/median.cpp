@@ -343,10 +343,11 @@ template <class T, class L>
 PxlStatus filterMedianBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roi, PxliSize mask, PxliBorderMode border,
                              const T* pBorderValue, Pxl8u* pBuffer)
 {
-    // Checks: pointers; the region; the mask; the border word (replicated or constant kinds, and
-    // the constant's value).
+    // Checks: pointers; the region; steps that are not whole samples; the mask; the border word
+    // (replicated or constant kinds, and the constant's value).
     if (!pSrc || !pDst || !pBuffer) return pxlStatusNullPointer;
     if (badSize(roi)) return pxlStatusBadSize;
+    if (srcStep % static_cast<int>(sizeof(T)) != 0 || dstStep % static_cast<int>(sizeof(T)) != 0) return pxlStatusMisalignedStep;
     if (badMedianMask(mask)) return pxlStatusBadMaskSize;
     if (checkBorderWord(border, kNoMirrorBorderKinds) != pxlStatusOk) return pxlStatusBadBorder;
     if ((border & 15) == pxlBorderConstant && !pBorderValue) return pxlStatusNullPointer;

@@ -167,6 +167,14 @@ TEST(FilterMedianBorder, CheckOrderAndCopies)
     copy.srcStep = copy.dstStep;
     ASSERT_EQ(median(copy), pxlStatusOk);
     EXPECT_TRUE(watch.unchanged());
+
+    // Steps of 16-bit rows that are not whole samples, after the region and before the mask.
+    GuardedImage<Pxl16u> img(roi.width, roi.height, 1);
+    const int step = img.step();
+    Pxl8u* buffer = call.work.base();
+    EXPECT_EQ(pxliFilterMedianBorder_16u_C1R(img.data(), step + 1, img.data(), step, roi, {3, 4}, 1, 0, buffer), pxlStatusMisalignedStep);
+    EXPECT_EQ(pxliFilterMedianBorder_16u_C1R(img.data(), step, img.data(), step - 1, roi, mask, 1, 0, buffer), pxlStatusMisalignedStep);
+    EXPECT_EQ(pxliFilterMedianBorder_16u_C1R(img.data(), step + 1, img.data(), step, {0, 7}, mask, 1, 0, buffer), pxlStatusBadSize);
 }
 
 }  // namespace
