@@ -397,7 +397,8 @@ PxlStatus filterMedianBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, P
             int filled = 0;  // extended pixels in the ring, from pixel x0 - ax on
             for (int x0 = 0; x0 < W;) {
                 const int len = std::min(capacity - (kw - 1), W - x0);
-                extendRow<T, N>(row, W, x0 - ax + filled, len + kw - 1 - filled, kind, flags, value, ring + std::ptrdiff_t{N} * filled);
+                extendRow<T, N>(row, source.left(), source.right(), x0 - ax + filled, len + kw - 1 - filled, kind, value,
+                                ring + std::ptrdiff_t{N} * filled);
                 medianOutRow<T, L>(kernel, [&](int) { return static_cast<const Loose<T>*>(ring); }, rowAt(pDst, dstStep, y) + std::ptrdiff_t{N} * x0, len, w);
                 std::memmove(ring, ring + std::ptrdiff_t{N} * len, sizeof(T) * N * static_cast<std::size_t>(kw - 1));
                 filled = kw - 1;

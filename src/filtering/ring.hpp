@@ -1,9 +1,11 @@
 // Windows over a ring of extended rows: the rows under the current output row's windows are kept,
-// made whole by the border rule, in a ring in the work buffer. Each output row is made from the
+// made whole by the border rule (replicated, mirrored or constant, with the memory flags), in a
+// ring in the work buffer. Each output row is made from the
 // ring alone, so the driver serves filters in place too (an image row is copied before the output
 // row that replaces it is written), and it needs kh rows of buffer whatever the region's size.
 #pragma once
 
+#include "exchange/border.hpp"
 #include "exchange/kernels.hpp"
 #include "frame/image.hpp"
 
@@ -20,23 +22,28 @@ template <class T> struct Unaligned {
 };
 template <class T> using Loose = typename Unaligned<T>::type;
 
-// The extended samples of image row `row` (or of the constant, where row is null) from pixel p0
-// on, count pixels: beyond a side the caller's memory where its flag is set, else the edge pixel
-// repeated or the constant (kind pxlBorderReplicate or pxlBorderConstant).
+// Index i brought into the real pixels [lo, hi) by the border kind: the nearest edge pixel
+// (replicated) or the reflection about the edge pixels (mirrored).
+inline int foldIndex(int i, int lo, int hi, int kind)
+{
+    return kind == pxlBorderReplicate ? std::clamp(i, lo, hi - 1) : lo + mirrorIndex(i - lo, hi - lo);
+}
+
+// The extended samples of a row (`row` points at the region's first pixel in it; null: a row of
+// the constant) from pixel p0 on, count pixels: the pixels in [lo, hi) as they are (the region,
+// and the caller's memory beyond a flagged side), the others by the border kind.
 template <class T, int N>
-void extendRow(const T* row, int W, int p0, int count, int kind, int flags, const T* value, Loose<T>* dst)
+void extendRow(const T* row, int lo, int hi, int p0, int count, int kind, const T* value, Loose<T>* dst)
 {
     for (int k = 0; k < count;) {
         const int p = p0 + k;
-        const bool outLeft = p < 0 && !(flags & pxlBorderMemLeft), outRight = p >= W && !(flags & pxlBorderMemRight);
-        if (row && !outLeft && !outRight) {
-            // The run of real pixels up to the right edge (or the end of the count).
-            const int end = std::min(p0 + count, flags & pxlBorderMemRight ? p0 + count : W);
+        if (row && p >= lo && p < hi) {
+            const int end = std::min(p0 + count, hi);  // the run of real pixels
             std::memcpy(dst + std::ptrdiff_t{N} * k, row + std::ptrdiff_t{N} * p, sizeof(T) * N * static_cast<std::size_t>(end - p));
             k += end - p;
             continue;
         }
-        const T* px = !row || kind == pxlBorderConstant ? value : row + (outLeft ? 0 : std::ptrdiff_t{N} * (W - 1));
+        const T* px = !row || kind == pxlBorderConstant ? value : row + std::ptrdiff_t{N} * foldIndex(p, lo, hi, kind);
         std::memcpy(dst + std::ptrdiff_t{N} * k, px, sizeof(T) * N);
         ++k;
     }
@@ -50,6 +57,11 @@ template <class T> struct RingSource {
     PxliSize roi;
     int kw, kh, kind, flags;
     const T* value;  // one pixel, for the constant kind
+    // The real columns and rows: the region, and as far as the mask reaches beyond a flagged side.
+    int left() const { return flags & pxlBorderMemLeft ? -(kw >> 1) : 0; }
+    int right() const { return flags & pxlBorderMemRight ? roi.width + (kw - 1 - (kw >> 1)) : roi.width; }
+    int top() const { return flags & pxlBorderMemTop ? -(kh >> 1) : 0; }
+    int bottom() const { return flags & pxlBorderMemBottom ? roi.height + (kh - 1 - (kh >> 1)) : roi.height; }
 };
 
 // For output rows 0 to H - 1 of the columns x0 to x0 + width - 1: enter(row) for each extended row
@@ -60,10 +72,11 @@ void slideRows(const RingSource<T>& s, int x0, int width, Loose<T>* ring, Enter 
 {
     const int H = s.roi.height, kh = s.kh, ay = kh >> 1, span = width + s.kw - 1;
     auto slot = [&](int r) { return ring + std::ptrdiff_t{((r % kh) + kh) % kh} * span * N; };
+    const int top = s.top(), bottom = s.bottom(), lo = s.left(), hi = s.right();
     auto load = [&](int r) {
-        const bool real = (r >= 0 || s.flags & pxlBorderMemTop) && (r < H || s.flags & pxlBorderMemBottom);
-        const T* row = real || s.kind == pxlBorderReplicate ? rowAt(s.src, s.srcStep, real ? r : std::clamp(r, 0, H - 1)) : nullptr;
-        extendRow<T, N>(row, s.roi.width, x0 - (s.kw >> 1), span, s.kind, s.flags, s.value, slot(r));
+        const bool real = r >= top && r < bottom;
+        const T* row = real || s.kind != pxlBorderConstant ? rowAt(s.src, s.srcStep, real ? r : foldIndex(r, top, bottom, s.kind)) : nullptr;
+        extendRow<T, N>(row, lo, hi, x0 - (s.kw >> 1), span, s.kind, s.value, slot(r));
         enter(static_cast<const Loose<T>*>(slot(r)));
     };
     for (int r = -ay; r < ay; ++r) load(r);
