@@ -1,7 +1,8 @@
 // Neighbourhood filters on a frame (1920x1080 unless --size says otherwise): 3x3 and 5x5 binomial
 // kernels on 8u (16s taps with a divisor) and on 32f, replicated borders, against OpenCV's filter2D
 // with the same kernel and border; box filters of 8u and 32f, C1 and C3, against OpenCV's blur;
-// medians of 8u against OpenCV's medianBlur; the 3x3 Laplace against filter2D; and a memcpy
+// medians of 8u against OpenCV's medianBlur; the 3x3 Laplace against filter2D;
+// the 3x3 Sobel against OpenCV's Sobel; and a memcpy
 // of the bytes read and written.
 #include "bench.hpp"
 
@@ -193,6 +194,37 @@ void laplace()
 #endif
 }
 
+// The 3x3 horizontal Sobel (8u to 16s), replicated borders, against OpenCV's Sobel (dy = 1).
+void sobel()
+{
+    const std::string name = "FilterSobelHorizBorder 3x3 8u16s C1" + pxlbench::sizeTag();
+    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), d(W, H, 2);
+        pxlbench::pixelValues<Pxl8u>(a);
+        int size = 0;
+        pxliFilterSobelHorizBorderGetBufferSize({W, H}, pxlMask3x3, pxlDt8u, pxlDt16s, 1, &size);
+        std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
+        for (auto _ : s) {
+            benchmark::DoNotOptimize(pxliFilterSobelHorizBorder_8u16s_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl16s>(), d.step, {W, H}, pxlMask3x3,
+                                                                          pxlBorderReplicate, 0, buffer.data()));
+            benchmark::ClobberMemory();
+        }
+    });
+    const std::size_t bytes = static_cast<std::size_t>(W) * H;
+    pxlbench::addMemcpy(name, bytes, 2 * bytes);
+#ifdef PXL_BENCH_OPENCV
+    pxlbench::add(name, "peer", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), d(W, H, 2);
+        pxlbench::pixelValues<Pxl8u>(a);
+        cv::Mat ma = a.mat(pxlbench::k8uC1), md(H, W, CV_16S, d.data, static_cast<std::size_t>(d.step));
+        for (auto _ : s) {
+            cv::Sobel(ma, md, CV_16S, 0, 1, 3, 1, 0, cv::BORDER_REPLICATE);
+            benchmark::ClobberMemory();
+        }
+    });
+#endif
+}
+
 void filterBenchmarks()
 {
     for (int side : {3, 5, 15}) {
@@ -207,6 +239,7 @@ void filterBenchmarks()
     }
     for (int side : {3, 5, 7, 15}) median(side);
     laplace();
+    sobel();
 }
 
 const pxlbench::Registrar registrar(filterBenchmarks);

@@ -231,6 +231,64 @@ PxlStatus pxliFilterSharpenBorder_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32
 PxlStatus pxliFilterSharpenBorder_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[4], Pxl8u* pBuffer);
 PxlStatus pxliFilterSharpenBorder_32f_AC4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, const Pxl32f pBorderValue[3], Pxl8u* pBuffer);
 
+/* Derivative filters, single channel, with replicated, mirrored or constant borders (the constant
+ * by value) and the memory flags; masks pxlMask3x3, and for the Sobel forms pxlMask5x5. The
+ * kernels as applied at (x, y), rows from y - 1 down, columns from x - 1 right:
+ *   SobelVert: left column minus right, weighted 1 2 1 down;   SobelNegVert: right minus left;
+ *   SobelHoriz: row below minus row above, weighted 1 2 1 across;
+ *   ScharrVertMask: right column minus left, weighted 3 10 3;  ScharrHorizMask: below minus above, 3 10 3;
+ *   PrewittVert: left column minus right;  PrewittHoriz: row below minus row above;
+ *   RobertsDown: src(x, y) - src(x - 1, y - 1);  RobertsUp: src(x, y) - src(x + 1, y - 1);
+ *   SobelVertSecond: left + right - 2 centre of the columns smoothed 1 2 1; SobelHorizSecond: the same down rows.
+ * The 5x5 Sobel kernels are the binomial 1 4 6 4 1 across the derivative's direction times, along
+ * it, 1 2 0 -2 -1 (vertical: left minus right), -1 -2 0 2 1 (horizontal and negative vertical) or
+ * 1 0 -2 0 1 (second derivatives). 8u16s reads 8u and writes the exact 16s result; 16s saturates;
+ * 32f adds the products of the non-zero weights in row-major order. Checks: null pointers, the
+ * region, steps that are not whole samples (pxlStatusMisalignedStep), the mask, the border word.
+ * The size query takes the mask code, the pair of types (8u and 16s, 16s and 16s, 32f and 32f)
+ * and one channel. */
+PxlStatus pxliFilterSobelVertBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterSobelVertBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelVertBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelVertBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelHorizBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterSobelHorizBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelHorizBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelHorizBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterScharrVertMaskBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterScharrVertMaskBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterScharrVertMaskBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterScharrVertMaskBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterScharrHorizMaskBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterScharrHorizMaskBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterScharrHorizMaskBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterScharrHorizMaskBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterPrewittVertBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterPrewittVertBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterPrewittVertBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterPrewittVertBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterPrewittHorizBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterPrewittHorizBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterPrewittHorizBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterPrewittHorizBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterRobertsDownBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterRobertsDownBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterRobertsDownBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterRobertsDownBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterRobertsUpBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterRobertsUpBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterRobertsUpBorder_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterRobertsUpBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelVertSecondBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterSobelVertSecondBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelVertSecondBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelHorizSecondBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterSobelHorizSecondBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelHorizSecondBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelNegVertBorderGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterSobelNegVertBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobelNegVertBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+
 #ifdef __cplusplus
 }
 #endif

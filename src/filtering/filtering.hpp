@@ -60,6 +60,13 @@ template <int Group, class T>
 PxlStatus fixedFilterBorderC1(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border,
                               T value, Pxl8u* pBuffer);
 
+// Derivative filters with fixed kernels, by selector.
+PxlStatus derivativeGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels,
+                                  int* pBufferSize);
+template <int Kind, class S, class D>
+PxlStatus derivativeBorder(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border,
+                           S borderValue, Pxl8u* pBuffer);
+
 // Running window sums along rows and columns.
 template <class S, class L>
 PxlStatus sumWindowRow(const S* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roi, int maskSize, int anchor);
