@@ -127,102 +127,87 @@ template <class T> void box(int side, int channels, [[maybe_unused]] pxlbench::M
 #endif
 }
 
-// The median of side n on 8u C1, replicated borders, against OpenCV's medianBlur (which
-// replicates too).
-void median(int side)
+// A filter of one 8u channel into samples of outBytes: pxl (size() bytes of work buffer, then
+// run(source, destination, buffer) per call), memcpy of the bytes read and written, and the peer.
+#ifdef PXL_BENCH_OPENCV
+#define PXL_PEER(call) [=](const cv::Mat& src, cv::Mat& dst) { call; }
+#else
+#define PXL_PEER(call) 0
+#endif
+template <class Size, class Run, class Peer>
+void oneChannel(const std::string& name, int outBytes, Size size, Run run, [[maybe_unused]] Peer peer)
 {
-    const std::string name = "FilterMedianBorder " + std::to_string(side) + "x" + std::to_string(side) + " 8u C1" + pxlbench::sizeTag();
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, 1), d(W, H, 1);
+        pxlbench::Image a(W, H, 1), d(W, H, outBytes);
         pxlbench::pixelValues<Pxl8u>(a);
-        const PxliSize roi{W, H}, mask{side, side};
-        int size = 0;
-        pxliFilterMedianBorderGetBufferSize(roi, mask, pxlDt8u, 1, &size);
-        std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
+        std::vector<Pxl8u> buffer(static_cast<std::size_t>(size()));
         for (auto _ : s) {
-            benchmark::DoNotOptimize(
-                pxliFilterMedianBorder_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, roi, mask, pxlBorderReplicate, 0, buffer.data()));
+            benchmark::DoNotOptimize(run(a, d, buffer.data()));
             benchmark::ClobberMemory();
         }
     });
     const std::size_t bytes = static_cast<std::size_t>(W) * H;
-    pxlbench::addMemcpy(name, bytes, bytes);
+    pxlbench::addMemcpy(name, bytes, bytes * static_cast<std::size_t>(outBytes));
 #ifdef PXL_BENCH_OPENCV
     pxlbench::add(name, "peer", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, 1), d(W, H, 1);
+        pxlbench::Image a(W, H, 1), d(W, H, outBytes);
         pxlbench::pixelValues<Pxl8u>(a);
-        cv::Mat ma = a.mat(pxlbench::k8uC1), md = d.mat(pxlbench::k8uC1);
+        cv::Mat ma = a.mat(pxlbench::k8uC1), md(H, W, outBytes == 1 ? CV_8U : CV_16S, d.data, static_cast<std::size_t>(d.step));
         for (auto _ : s) {
-            cv::medianBlur(ma, md, side);
+            peer(ma, md);
             benchmark::ClobberMemory();
         }
     });
 #endif
 }
 
-// The 3x3 Laplace (9c - S) on 8u C1, replicated borders, against OpenCV's filter2D with the same
-// kernel (8u out, saturated).
-void laplace()
+// Medians of side n, replicated borders, against OpenCV's medianBlur (which replicates too); the
+// 3x3 Laplace (9c - S) against filter2D with that kernel; the 3x3 horizontal Sobel (8u to 16s)
+// against OpenCV's Sobel (dy = 1).
+void fixedKernels()
 {
-    const std::string name = "FilterLaplaceBorder 3x3 8u C1" + pxlbench::sizeTag();
-    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, 1), d(W, H, 1);
-        pxlbench::pixelValues<Pxl8u>(a);
-        int size = 0;
-        pxliFilterLaplaceBorderGetBufferSize({W, H}, pxlMask3x3, pxlDt8u, pxlDt8u, 1, &size);
-        std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
-        for (auto _ : s) {
-            benchmark::DoNotOptimize(pxliFilterLaplaceBorder_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {W, H}, pxlMask3x3,
-                                                                    pxlBorderReplicate, 0, buffer.data()));
-            benchmark::ClobberMemory();
-        }
-    });
-    const std::size_t bytes = static_cast<std::size_t>(W) * H;
-    pxlbench::addMemcpy(name, bytes, bytes);
-#ifdef PXL_BENCH_OPENCV
-    pxlbench::add(name, "peer", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, 1), d(W, H, 1);
-        pxlbench::pixelValues<Pxl8u>(a);
-        cv::Mat ma = a.mat(pxlbench::k8uC1), md = d.mat(pxlbench::k8uC1);
-        cv::Mat k(3, 3, CV_32F, cv::Scalar(-1.0f));
-        k.at<float>(1, 1) = 8.0f;
-        for (auto _ : s) {
-            cv::filter2D(ma, md, -1, k, cv::Point(-1, -1), 0, cv::BORDER_REPLICATE);
-            benchmark::ClobberMemory();
-        }
-    });
-#endif
-}
-
-// The 3x3 horizontal Sobel (8u to 16s), replicated borders, against OpenCV's Sobel (dy = 1).
-void sobel()
-{
-    const std::string name = "FilterSobelHorizBorder 3x3 8u16s C1" + pxlbench::sizeTag();
-    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, 1), d(W, H, 2);
-        pxlbench::pixelValues<Pxl8u>(a);
-        int size = 0;
-        pxliFilterSobelHorizBorderGetBufferSize({W, H}, pxlMask3x3, pxlDt8u, pxlDt16s, 1, &size);
-        std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
-        for (auto _ : s) {
-            benchmark::DoNotOptimize(pxliFilterSobelHorizBorder_8u16s_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl16s>(), d.step, {W, H}, pxlMask3x3,
-                                                                          pxlBorderReplicate, 0, buffer.data()));
-            benchmark::ClobberMemory();
-        }
-    });
-    const std::size_t bytes = static_cast<std::size_t>(W) * H;
-    pxlbench::addMemcpy(name, bytes, 2 * bytes);
-#ifdef PXL_BENCH_OPENCV
-    pxlbench::add(name, "peer", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, 1), d(W, H, 2);
-        pxlbench::pixelValues<Pxl8u>(a);
-        cv::Mat ma = a.mat(pxlbench::k8uC1), md(H, W, CV_16S, d.data, static_cast<std::size_t>(d.step));
-        for (auto _ : s) {
-            cv::Sobel(ma, md, CV_16S, 0, 1, 3, 1, 0, cv::BORDER_REPLICATE);
-            benchmark::ClobberMemory();
-        }
-    });
-#endif
+    const PxliSize roi{W, H};
+    for (int side : {3, 5, 7, 15}) {
+        const PxliSize mask{side, side};
+        oneChannel(
+            "FilterMedianBorder " + std::to_string(side) + "x" + std::to_string(side) + " 8u C1" + pxlbench::sizeTag(), 1,
+            [=] {
+                int size = 0;
+                pxliFilterMedianBorderGetBufferSize(roi, mask, pxlDt8u, 1, &size);
+                return size;
+            },
+            [=](const pxlbench::Image& a, pxlbench::Image& d, Pxl8u* buffer) {
+                return pxliFilterMedianBorder_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, roi, mask, pxlBorderReplicate, 0, buffer);
+            },
+            PXL_PEER(cv::medianBlur(src, dst, side)));
+    }
+    oneChannel(
+        "FilterLaplaceBorder 3x3 8u C1" + pxlbench::sizeTag(), 1,
+        [=] {
+            int size = 0;
+            pxliFilterLaplaceBorderGetBufferSize(roi, pxlMask3x3, pxlDt8u, pxlDt8u, 1, &size);
+            return size;
+        },
+        [=](const pxlbench::Image& a, pxlbench::Image& d, Pxl8u* buffer) {
+            return pxliFilterLaplaceBorder_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, roi, pxlMask3x3, pxlBorderReplicate, 0, buffer);
+        },
+        PXL_PEER({
+            cv::Mat k(3, 3, CV_32F, cv::Scalar(-1.0f));
+            k.at<float>(1, 1) = 8.0f;
+            cv::filter2D(src, dst, -1, k, cv::Point(-1, -1), 0, cv::BORDER_REPLICATE);
+        }));
+    oneChannel(
+        "FilterSobelHorizBorder 3x3 8u16s C1" + pxlbench::sizeTag(), 2,
+        [=] {
+            int size = 0;
+            pxliFilterSobelHorizBorderGetBufferSize(roi, pxlMask3x3, pxlDt8u, pxlDt16s, 1, &size);
+            return size;
+        },
+        [=](const pxlbench::Image& a, pxlbench::Image& d, Pxl8u* buffer) {
+            return pxliFilterSobelHorizBorder_8u16s_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl16s>(), d.step, roi, pxlMask3x3, pxlBorderReplicate, 0,
+                                                        buffer);
+        },
+        PXL_PEER(cv::Sobel(src, dst, CV_16S, 0, 1, 3, 1, 0, cv::BORDER_REPLICATE)));
 }
 
 void filterBenchmarks()
@@ -237,9 +222,7 @@ void filterBenchmarks()
         filter<Pxl8u>(side, pxlbench::k8uC1);
         filter<Pxl32f>(side, pxlbench::k32fC1);
     }
-    for (int side : {3, 5, 7, 15}) median(side);
-    laplace();
-    sobel();
+    fixedKernels();
 }
 
 const pxlbench::Registrar registrar(filterBenchmarks);
