@@ -2,10 +2,11 @@
 // windows extended by the border rule (which also lets a call filter in place), and the float
 // forms whose caller places the window.
 //
-// The method depends on the mask's shape alone: a median of three for 1x3 and 3x1, a network of
-// five for 1x5 and 5x1, sorted columns for 3x3 and 5x5 (each column sorted once and shared by the
-// windows over it), and for any other shape a sliding histogram (8u), an exact selection (16u,
-// 16s) or the partial bubble selection (float, which fixes where a NaN goes).
+// The method depends on the mask's shape: a median of three for 1x3 and 3x1, a network of five for
+// 1x5 and 5x1, sorted columns for 3x3 and 5x5 (the 5x5 kernel sorts each column once for the
+// five windows over it), and for any other shape a histogram sliding along the row (8u; tall masks
+// out of place run in bands of column histograms instead), an exact selection (16u, 16s) or the
+// partial bubble selection (float, which fixes where a NaN goes).
 #include "filtering/filtering.hpp"
 #include "filtering/median_networks.hpp"
 #include "filtering/ring.hpp"
