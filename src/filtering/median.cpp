@@ -51,19 +51,19 @@ constexpr int kMedianChunk = 256;  // pixels whose column sorts are kept at a ti
 
 template <class T, int N, class Rows> void medianColumn3(const Rows& rows, T* out, int width, const MedianWindow<T>&)
 {
-    const auto *a = rows(0), *b = rows(1), *c = rows(2);
+    decltype(rows(0)) a = rows(0), b = rows(1), c = rows(2);
     for (int j = 0; j < width * N; ++j) out[j] = medianOf3<T>(a[j], b[j], c[j]);
 }
 
 template <class T, int N, class Rows> void medianRow3(const Rows& rows, T* out, int width, const MedianWindow<T>&)
 {
-    const auto* r = rows(0);
+    decltype(rows(0)) r = rows(0);
     for (int j = 0; j < width * N; ++j) out[j] = medianOf3<T>(r[j], r[j + N], r[j + 2 * N]);
 }
 
 template <class T, int N, class Rows> void medianColumn5(const Rows& rows, T* out, int width, const MedianWindow<T>&)
 {
-    const auto *r0 = rows(0), *r1 = rows(1), *r2 = rows(2), *r3 = rows(3), *r4 = rows(4);
+    decltype(rows(0)) r0 = rows(0), r1 = rows(1), r2 = rows(2), r3 = rows(3), r4 = rows(4);
     for (int j = 0; j < width * N; ++j) {
         T v[5] = {r0[j], r1[j], r2[j], r3[j], r4[j]};
         applyNetwork<kMedianOf5>(v);
@@ -73,7 +73,7 @@ template <class T, int N, class Rows> void medianColumn5(const Rows& rows, T* ou
 
 template <class T, int N, class Rows> void medianRow5(const Rows& rows, T* out, int width, const MedianWindow<T>&)
 {
-    const auto* r = rows(0);
+    decltype(rows(0)) r = rows(0);
     for (int j = 0; j < width * N; ++j) {
         T v[5] = {r[j], r[j + N], r[j + 2 * N], r[j + 3 * N], r[j + 4 * N]};
         applyNetwork<kMedianOf5>(v);
@@ -86,7 +86,7 @@ template <class T, int N, class Rows> void medianRow5(const Rows& rows, T* out, 
 // column sorts are made again for each window, which costs less than keeping them.
 template <class T, int N, class Rows> void medianSquare3(const Rows& rows, T* out, int width, const MedianWindow<T>&)
 {
-    const auto *a = rows(0), *b = rows(1), *c = rows(2);
+    decltype(rows(0)) a = rows(0), b = rows(1), c = rows(2);
     for (int j = 0; j < width * N; ++j) {
         T v[9] = {a[j], b[j], c[j], a[j + N], b[j + N], c[j + N], a[j + 2 * N], b[j + 2 * N], c[j + 2 * N]};
         applyNetwork<kSortOf3>(v);
@@ -130,8 +130,39 @@ template <class T> T bubbleMiddle(Loose<T>* s, int n)
     const int m = n >> 1;
     for (int pass = 0; pass < n - m; ++pass)
         for (int i = 0; i + 1 < n - pass; ++i)
-            if (s[i] < s[i + 1]) std::swap(s[i], s[i + 1]);
+            if (s[i] < s[i + 1]) {
+                const T t = s[i];
+                s[i] = s[i + 1];
+                s[i + 1] = t;
+            }
     return s[m];
+}
+
+// The middle of n integer samples, by partitioning around a pivot (the samples may lie at any
+// alignment, so no standard algorithm touches them).
+template <class T> T selectMiddle(Loose<T>* s, int n)
+{
+    const int k = n >> 1;
+    int lo = 0, hi = n - 1;
+    while (lo < hi) {
+        const T pivot = s[(lo + hi) >> 1];
+        int i = lo, j = hi;
+        while (i <= j) {
+            while (s[i] < pivot) ++i;
+            while (pivot < s[j]) --j;
+            if (i <= j) {
+                const T t = s[i];
+                s[i] = s[j];
+                s[j] = t;
+                ++i;
+                --j;
+            }
+        }
+        if (k <= j) hi = j;
+        else if (k >= i) lo = i;
+        else break;
+    }
+    return s[k];
 }
 
 template <class T, int N, class Rows> void medianAny(const Rows& rows, T* out, int width, const MedianWindow<T>& w)
@@ -141,14 +172,13 @@ template <class T, int N, class Rows> void medianAny(const Rows& rows, T* out, i
         for (int c = 0; c < N; ++c) {
             Loose<T>* s = w.scratch;
             for (int i = 0; i < w.kh; ++i) {
-                const auto* r = rows(i) + x * N + c;
+                decltype(rows(0)) r = rows(i) + x * N + c;
                 for (int k = 0; k < w.kw; ++k) *s++ = r[k * N];
             }
             if constexpr (std::is_floating_point_v<T>) {
                 out[x * N + c] = bubbleMiddle<T>(w.scratch, n);
             } else {
-                std::nth_element(w.scratch, w.scratch + (n >> 1), w.scratch + n);
-                out[x * N + c] = w.scratch[n >> 1];
+                out[x * N + c] = selectMiddle<T>(w.scratch, n);
             }
         }
 }
@@ -161,7 +191,7 @@ template <class T, int N, class Rows> void medianHistogram(const Rows& rows, T* 
     for (int c = 0; c < N; ++c) {
         uint32_t hist[256] = {};
         for (int i = 0; i < w.kh; ++i) {
-            const auto* r = rows(i) + c;
+            decltype(rows(0)) r = rows(i) + c;
             for (int k = 0; k < w.kw; ++k) ++hist[r[k * N]];
         }
         int median = 0, below = 0;  // samples below the median
@@ -173,7 +203,7 @@ template <class T, int N, class Rows> void medianHistogram(const Rows& rows, T* 
         out[c] = static_cast<T>(median);
         for (int x = 1; x < width; ++x) {
             for (int i = 0; i < w.kh; ++i) {
-                const auto* r = rows(i) + c;
+                decltype(rows(0)) r = rows(i) + c;
                 const int gone = r[(x - 1) * N], come = r[(x + w.kw - 1) * N];
                 --hist[gone];
                 ++hist[come];
@@ -232,8 +262,8 @@ bool medianInBands(const RingSource<Pxl8u>& source, Pxl8u* dst, int dstStep, Pxl
     auto* ring = reinterpret_cast<Loose<Pxl8u>*>(coarse + std::ptrdiff_t{columns} * P * 16);  // kh rows of `columns` pixels
     for (int x0 = 0; x0 < W; x0 += columns - (kw - 1)) {
         const int width = std::min(columns - (kw - 1), W - x0), span = width + kw - 1;
-        std::fill_n(fine, std::ptrdiff_t{span} * P * 256, uint16_t{0});
-        std::fill_n(coarse, std::ptrdiff_t{span} * P * 16, uint16_t{0});
+        std::memset(fine, 0, sizeof(uint16_t) * 256 * P * static_cast<std::size_t>(span));
+        std::memset(coarse, 0, sizeof(uint16_t) * 16 * P * static_cast<std::size_t>(span));
         auto count = [&](const Loose<Pxl8u>* row, int step) {
             for (int p = 0; p < span; ++p)
                 for (int c = 0; c < P; ++c) {
@@ -400,7 +430,7 @@ PxlStatus filterMedianBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, P
                 const int len = std::min(capacity - (kw - 1), W - x0);
                 extendRow<T, N>(row, source.left(), source.right(), x0 - ax + filled, len + kw - 1 - filled, kind, value,
                                 ring + std::ptrdiff_t{N} * filled);
-                medianOutRow<T, L>(kernel, [&](int) { return static_cast<const Loose<T>*>(ring); }, rowAt(pDst, dstStep, y) + std::ptrdiff_t{N} * x0, len, w);
+                medianOutRow<T, L>(kernel, [&](int) -> const Loose<T>* { return ring; }, rowAt(pDst, dstStep, y) + std::ptrdiff_t{N} * x0, len, w);
                 std::memmove(ring, ring + std::ptrdiff_t{N} * len, sizeof(T) * N * static_cast<std::size_t>(kw - 1));
                 filled = kw - 1;
                 x0 += len;

@@ -84,7 +84,8 @@ void slideRows(const RingSource<T>& s, int x0, int width, Loose<T>* ring, Enter 
         if (y > 0) leave(static_cast<const Loose<T>*>(slot(y - ay - 1)));
         load(y + ay);
         const int first = (((y - ay) % kh) + kh) % kh;  // the slot of the windows' top row
-        out(y, [&](int i) {
+        // The declared type keeps the samples' alignment of 1 for the kernels that read through it.
+        out(y, [&](int i) -> const Loose<T>* {
             const int k = first + i < kh ? first + i : first + i - kh;
             return static_cast<const Loose<T>*>(ring + std::ptrdiff_t{k} * span * N);
         });
@@ -109,7 +110,7 @@ template <class T, class L, class Kernel, class Rows> void layoutRow(const Kerne
         T stretch[kStretch * N];
         for (int x0 = 0; x0 < width; x0 += kStretch) {
             const int len = std::min(kStretch, width - x0);
-            kernel([&](int i) { return rows(i) + x0 * N; }, stretch, len);
+            kernel([&](int i) -> decltype(rows(0)) { return rows(i) + x0 * N; }, stretch, len);
             krnCopyPixels<T, L>(stretch, out + x0 * N, len);
         }
     }
