@@ -279,8 +279,8 @@ bool medianInBands(const RingSource<Pxl8u>& source, Pxl8u* dst, int dstStep, Pxl
         slideRows<Pxl8u, N>(source, x0, width, ring, enter, leave, [&](int y, const auto&) {
             Pxl8u* out = rowAt(dst, dstStep, y) + std::ptrdiff_t{N} * x0;
             for (int c = 0; c < P; ++c) {
-                auto fineOf = [&](int p, int s) { return fine + (std::ptrdiff_t{p} * P + c) * 256 + 16 * s; };
-                auto coarseOf = [&](int p) { return coarse + (std::ptrdiff_t{p} * P + c) * 16; };
+                auto fineOf = [&](int p, int s) -> const Count* { return fine + (std::ptrdiff_t{p} * P + c) * 256 + 16 * s; };
+                auto coarseOf = [&](int p) -> const Count* { return coarse + (std::ptrdiff_t{p} * P + c) * 16; };
                 alignas(32) uint16_t window[16] = {};
                 alignas(32) uint16_t segment[16][16];
                 int current[16];  // the pixel each coarse bin's fine bins were brought to, or -1
