@@ -459,8 +459,8 @@ PxlStatus filterBoxBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Pxli
         }
     }
     // The constant as whole pixels: AC4 gives three samples, the frames' fourth is never written.
-    T value[4] = {};
-    if (pBorderValue) std::copy_n(pBorderValue, P, value);
+    const BorderPixel<T> border4(pBorderValue, P);
+    const T* value = border4.v;
     if (pSrc != pDst) {
         filterStrips<T, Frames>(pSrc, srcStep, pDst, dstStep, roi, w, border, value, strips, slots, rows, sides);
         return pxlStatusOk;

@@ -4,6 +4,7 @@
 // results are exact, 32f adds the products of the non-zero weights in the window's row-major order.
 #include "filtering/filtering.hpp"
 #include "filtering/ring.hpp"
+#include "filtering/rows.hpp"
 
 #include "exchange/border.hpp"
 #include "frame/bind.hpp"
@@ -52,12 +53,9 @@ constexpr Weights k3x3[11] = {
 constexpr Weights k5x5[11] = {outer(kBinomial, kFalling), outer(kRising, kBinomial), {}, {}, {}, {}, {}, {},
                               outer(kBinomial, kSecond), outer(kSecond, kBinomial), outer(kBinomial, kRising)};
 
-// Sums: 16-bit from 8u (every sum fits the 16-bit result), 32-bit from 16s, float from 32f.
-template <class S> using SumFrom = std::conditional_t<std::is_same_v<S, Pxl8u>, int16_t, std::conditional_t<std::is_same_v<S, Pxl16s>, int32_t, float>>;
-
 template <Weights K, class S, class D, class Rows> void derivativeRow(const Rows& rows, D* out, int width)
 {
-    using A = SumFrom<S>;
+    using A = FixedSum<S>;
     decltype(rows(0)) r[5];
     for (int i = 0; i < K.side; ++i) r[i] = rows(i);
     for (int x = 0; x < width; ++x) {
@@ -94,9 +92,7 @@ PxlStatus derivativeGetBufferSize(PxliSize roi, PxlMaskCode mask, PxlDataType sr
                       (srcType == pxlDt32f && dstType == pxlDt32f);
     if (!pair) return pxlStatusBadDataType;
     if (numChannels != 1) return pxlStatusBadChannelCount;
-    const int64_t side = std::max(roi.width, roi.height);
-    const int64_t n = (mask == pxlMask3x3 ? (side + 2) * 3 : (side + 4) * 7) * dataTypeBytes(srcType);
-    const int64_t bytes = ((n + 31) & ~int64_t{31}) + 32;
+    const int64_t bytes = fixedKernelBufferBytes(roi, mask == pxlMask5x5, dataTypeBytes(srcType), 1);
     if (bytes > INT32_MAX) return pxlStatusSizeOverflow;
     *pBufferSize = static_cast<int>(bytes);
     return pxlStatusOk;

@@ -3,6 +3,7 @@
 // fixed order: each window row from the left, then the rows from the top.
 #include "filtering/filtering.hpp"
 #include "filtering/ring.hpp"
+#include "filtering/rows.hpp"
 
 #include "exchange/border.hpp"
 #include "frame/bind.hpp"
@@ -21,9 +22,6 @@ enum class Kernel { Laplace3, Laplace5, Hipass5, Sharpen3 };
 // The 5x5 Laplace weights, rows from the top.
 constexpr int kLaplace5[5][5] = {{-1, -3, -4, -3, -1}, {-3, 0, 6, 0, -3}, {-4, 6, 20, 6, -4}, {-3, 0, 6, 0, -3}, {-1, -3, -4, -3, -1}};
 
-// Exact sums: 16-bit for 8u (every sum fits), 32-bit for 16s, float for 32f.
-template <class T> using SumOf = std::conditional_t<std::is_same_v<T, Pxl8u>, int16_t, std::conditional_t<std::is_same_v<T, Pxl16s>, int32_t, float>>;
-
 template <class T, class A> inline T saturated(A v)
 {
     if constexpr (std::is_floating_point_v<T>) {
@@ -37,7 +35,7 @@ template <class T, class A> inline T saturated(A v)
 // One output row: rows(i) is the first sample of window row i; N samples a pixel, all filtered.
 template <Kernel K, class T, int N, class Rows> void fixedRow(const Rows& rows, T* out, int width)
 {
-    using A = SumOf<T>;
+    using A = FixedSum<T>;
     constexpr int k = K == Kernel::Laplace3 || K == Kernel::Sharpen3 ? 3 : 5, half = k / 2;
     decltype(rows(0)) r[k];
     for (int i = 0; i < k; ++i) r[i] = rows(i);
@@ -89,9 +87,7 @@ PxlStatus fixedFilterGetBufferSize(PxliSize roi, PxlMaskCode mask, PxlDataType s
     if (badLaplaceMask(mask, fiveAllowed)) return pxlStatusBadMaskSize;
     if (srcType != dstType || (srcType != pxlDt8u && srcType != pxlDt16s && srcType != pxlDt32f)) return pxlStatusBadDataType;
     if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pxlStatusBadChannelCount;
-    const int64_t side = std::max(roi.width, roi.height);
-    const int64_t n = (mask == pxlMask3x3 ? (side + 2) * 3 : (side + 4) * 7) * dataTypeBytes(srcType) * numChannels;
-    const int64_t bytes = ((n + 31) & ~int64_t{31}) + 32;
+    const int64_t bytes = fixedKernelBufferBytes(roi, mask == pxlMask5x5, dataTypeBytes(srcType), numChannels);
     if (bytes > INT32_MAX) return pxlStatusSizeOverflow;
     *pBufferSize = static_cast<int>(bytes);
     return pxlStatusOk;
@@ -123,9 +119,8 @@ PxlStatus fixedFilterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, Px
 
     constexpr int N = L::mem;
     const int k = mask == pxlMask3x3 ? 3 : 5;
-    T value[4] = {};
-    if (pBorderValue) std::copy_n(pBorderValue, L::proc, value);
-    const RingSource<T> source{pSrc, srcStep, roi, k, k, border & 15, border & pxlBorderMemAll, value};
+    const BorderPixel<T> value(pBorderValue, L::proc);
+    const RingSource<T> source{pSrc, srcStep, roi, k, k, border & 15, border & pxlBorderMemAll, value.v};
     auto run = [&](auto kernel) {
         slideRows<T, N>(source, reinterpret_cast<Loose<T>*>(pBuffer),
                         [&](int y, const auto& rows) { layoutRow<T, L>(kernel, rows, rowAt(pDst, dstStep, y), roi.width); });

@@ -10,6 +10,7 @@
 #include "filtering/filtering.hpp"
 #include "filtering/median_networks.hpp"
 #include "filtering/ring.hpp"
+#include "filtering/rows.hpp"
 
 #include "exchange/border.hpp"
 #include "exchange/kernels.hpp"
@@ -395,8 +396,8 @@ PxlStatus filterMedianBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, P
     if (kw == 1) border |= pxlBorderMemLeft | pxlBorderMemRight;
     if (kh == 1) border |= pxlBorderMemTop | pxlBorderMemBottom;
     // The constant as whole pixels (AC4: three samples given, the fourth never written).
-    T value[4] = {};
-    if (pBorderValue) std::copy_n(pBorderValue, L::proc, value);
+    const BorderPixel<T> border4(pBorderValue, L::proc);
+    const T* value = border4.v;
 
     // The work buffer, at whatever address it starts: a ring of the current windows' rows,
     // extended, so that each output row is made from it (in place, after the image rows under it
