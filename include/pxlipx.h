@@ -18,5 +18,6 @@
 #include "pxlipx/synthetic.h"
 #include "pxlipx/statistics.h"
 #include "pxlipx/filtering.h"
+#include "pxlipx/features.h"
 
 #endif

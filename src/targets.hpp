@@ -6,3 +6,4 @@
 #include "arithmetic/arithmetic.hpp"
 #include "statistics/statistics.hpp"
 #include "filtering/filtering.hpp"
+#include "features/features.hpp"

@@ -289,6 +289,20 @@ PxlStatus pxliFilterSobelNegVertBorderGetBufferSize(PxliSize roiSize, PxlMaskCod
 PxlStatus pxliFilterSobelNegVertBorder_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
 PxlStatus pxliFilterSobelNegVertBorder_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
 
+/* The Sobel gradient's magnitude, single channel: normType 2 gives |gx| + |gy|, 4 the Euclidean
+ * length sqrt(gx^2 + gy^2), with gx and gy the SobelVert and SobelHoriz results above (3x3 or
+ * 5x5). 8u16s forms the exact integer gradient and writes the magnitude rounded to nearest and
+ * saturated; 16s32f and 16u32f form it in exact integers and take the magnitude in float; 32f
+ * works in float. Borders: replicated or constant (by value), with the memory flags. Checks: null
+ * pointers, the region, steps that are not whole samples, the mask, the norm
+ * (pxlStatusBadArgument), the border word. The size query takes the pairs 8u and 16s, 16s and
+ * 32f, 16u and 32f, 32f and 32f, and one channel; it is the gradient vectors' size. */
+PxlStatus pxliFilterSobelGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels, int* pBufferSize);
+PxlStatus pxliFilterSobel_8u16s_C1R(const Pxl8u* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, int normType, PxliBorderMode border, Pxl8u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobel_16s32f_C1R(const Pxl16s* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, int normType, PxliBorderMode border, Pxl16s borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobel_16u32f_C1R(const Pxl16u* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, int normType, PxliBorderMode border, Pxl16u borderValue, Pxl8u* pBuffer);
+PxlStatus pxliFilterSobel_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, int normType, PxliBorderMode border, Pxl32f borderValue, Pxl8u* pBuffer);
+
 #ifdef __cplusplus
 }
 #endif

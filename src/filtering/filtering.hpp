@@ -66,6 +66,11 @@ PxlStatus derivativeGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataTyp
 template <int Kind, class S, class D>
 PxlStatus derivativeBorder(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roiSize, PxlMaskCode mask, PxliBorderMode border,
                            S borderValue, Pxl8u* pBuffer);
+PxlStatus filterSobelGetBufferSize(PxliSize roiSize, PxlMaskCode mask, PxlDataType srcType, PxlDataType dstType, int numChannels,
+                                   int* pBufferSize);
+template <class S, class D>
+PxlStatus filterSobel(const S* pSrc, int srcStep, D* pDst, int dstStep, PxliSize roi, PxlMaskCode mask, int normType,
+                      PxliBorderMode border, S borderValue, Pxl8u* pBuffer);
 
 // Running window sums along rows and columns.
 template <class S, class L>

@@ -35,9 +35,9 @@ template <class T> constexpr double largestMagnitude()
 }
 
 // The exact sums of fixed integer kernels: 16-bit from 8u (every sum of the small kernels fits),
-// 32-bit from 16s, float from 32f.
+// 32-bit from 16-bit samples, float from 32f.
 template <class T>
-using FixedSum = std::conditional_t<std::is_same_v<T, uint8_t>, int16_t, std::conditional_t<std::is_same_v<T, int16_t>, int32_t, float>>;
+using FixedSum = std::conditional_t<std::is_same_v<T, uint8_t>, int16_t, std::conditional_t<std::is_floating_point_v<T>, float, int32_t>>;
 
 // The border constant as a whole pixel of up to four samples: the `count` given (three for AC4,
 // whose fourth is never written), none where there is no value.

@@ -243,4 +243,75 @@ TEST(FilterDerivatives, SizesAndChecks)
         {&dst, &work});
 }
 
+// The Sobel magnitude filter is the magnitude plane of the Sobel gradient vectors (tested against
+// their model) on the same image, border and norm.
+template <class S, class D, class Filter, class Vector> void sobelMagnitudeCases(Filter filter, Vector vector, int count, uint64_t seed)
+{
+    Rng rng(seed);
+    const PxliSize rois[] = {{1, 1}, {3, 2}, {1, 7}, {6, 5}, {19, 9}, {280, 3}, {33, 17}};
+    constexpr int margin = 2;
+    for (int n = 0; n < count; ++n) {
+        const PxliSize roi = rois[rng.uniformInt(0, 6)];
+        const PxlMaskCode mask = rng.chance(0.5) ? pxlMask3x3 : pxlMask5x5;
+        const int border = (rng.chance(0.5) ? pxlBorderReplicate : pxlBorderConstant) | rng.uniformInt(0, 15) << 4;
+        const int norm = rng.chance(0.5) ? 2 : 4;
+        GuardedImage<S> img = pxltest::randomImage<S>(roi.width + 2 * margin, roi.height + 2 * margin, 1, rng, 0.2);
+        const S value = rng.sample<S>(0.5, false);
+        int bytes = 0, vectorBytes = 0;
+        ASSERT_EQ(pxliFilterSobelGetBufferSize(roi, mask, pxltest::typeCode<S>(), pxltest::typeCode<D>(), 1, &bytes), pxlStatusOk);
+        ASSERT_EQ(pxliGradientVectorGetBufferSize(roi, mask, pxltest::typeCode<S>(), 1, &vectorBytes), pxlStatusOk);
+        GuardedBuffer work(bytes, 1, 0, 64, 1), vectorWork(vectorBytes, 1, 0, 64, 0);
+        GuardedImage<D> got(roi.width, roi.height), want(roi.width, roi.height);
+        const S* src = &img.at(margin, margin);
+        ASSERT_EQ(filter(src, img.step(), got.data(), got.step(), roi, mask, norm, border, value, work.base()), pxlStatusOk);
+        ASSERT_EQ(vector(src, img.step(), nullptr, 0, nullptr, 0, want.data(), want.step(), nullptr, 0, roi, mask, norm, border, value,
+                         vectorWork.base()),
+                  pxlStatusOk);
+        ASSERT_TRUE(work.guardsIntact() && got.guardsIntact());
+        EXPECT_TRUE(pxltest::regionsEqual(got, want)) << pxltest::token<S>() << " mask " << mask << " roi " << roi.width << "x"
+                                                      << roi.height << " border " << border << " norm " << norm;
+    }
+}
+
+TEST(FilterDerivatives, SobelMagnitude)
+{
+    sobelMagnitudeCases<Pxl8u, Pxl16s>(pxliFilterSobel_8u16s_C1R, pxliGradientVectorSobel_8u16s_C1R, 30, 11);
+    sobelMagnitudeCases<Pxl16s, Pxl32f>(pxliFilterSobel_16s32f_C1R, pxliGradientVectorSobel_16s32f_C1R, 20, 12);
+    sobelMagnitudeCases<Pxl16u, Pxl32f>(pxliFilterSobel_16u32f_C1R, pxliGradientVectorSobel_16u32f_C1R, 20, 13);
+    sobelMagnitudeCases<Pxl32f, Pxl32f>(pxliFilterSobel_32f_C1R, pxliGradientVectorSobel_32f_C1R, 30, 14);
+
+    int bytes = -1;
+    // 16u, 5x5, 10 by 8: (10 + 4) * (5 + 8 - 1) * 2 + 2 * 10 * 4 = 416.
+    ASSERT_EQ(pxliFilterSobelGetBufferSize({10, 8}, pxlMask5x5, pxlDt16u, pxlDt32f, 1, &bytes), pxlStatusOk);
+    EXPECT_EQ(bytes, 416);
+    EXPECT_EQ(pxliFilterSobelGetBufferSize({10, 8}, pxlMask3x3, pxlDt16u, pxlDt16s, 1, &bytes), pxlStatusBadDataType);
+    EXPECT_EQ(pxliFilterSobelGetBufferSize({10, 8}, pxlMask3x3, pxlDt8u, pxlDt16s, 3, &bytes), pxlStatusBadChannelCount);
+
+    const PxliSize roi{9, 7};
+    GuardedImage<Pxl16s> src(roi.width, roi.height, 1);
+    GuardedImage<Pxl32f> dst(roi.width, roi.height, 1);
+    ASSERT_EQ(pxliFilterSobelGetBufferSize(roi, pxlMask5x5, pxlDt16s, pxlDt32f, 1, &bytes), pxlStatusOk);
+    GuardedBuffer work(bytes, 1, 0, 64, 0);
+    struct Args {
+        const Pxl16s* src;
+        int srcStep;
+        Pxl32f* dst;
+        PxliSize roi;
+        PxlMaskCode mask;
+        int norm, border;
+        Pxl8u* buffer;
+    };
+    pxltest::expectCheckOrder<Args>(
+        {src.data(), src.step(), dst.data(), roi, pxlMask5x5, 2, pxlBorderConstant, work.base()},
+        {{"null destination", pxlStatusNullPointer, [](Args& a) { a.dst = nullptr; }},
+         {"null buffer", pxlStatusNullPointer, [](Args& a) { a.buffer = nullptr; }},
+         {"width 0", pxlStatusBadSize, [](Args& a) { a.roi.width = 0; }},
+         {"odd source step", pxlStatusMisalignedStep, [](Args& a) { a.srcStep -= 1; }},
+         {"mask 34", pxlStatusBadMaskSize, [](Args& a) { a.mask = 34; }},
+         {"norm 3", pxlStatusBadArgument, [](Args& a) { a.norm = 3; }},
+         {"mirror", pxlStatusBadBorder, [](Args& a) { a.border = pxlBorderMirror; }}},
+        [&](const Args& a) { return pxliFilterSobel_16s32f_C1R(a.src, a.srcStep, a.dst, dst.step(), a.roi, a.mask, a.norm, a.border, 0, a.buffer); },
+        {&dst, &work});
+}
+
 }  // namespace
