@@ -2,8 +2,8 @@
 // kernels on 8u (16s taps with a divisor) and on 32f, replicated borders, against OpenCV's filter2D
 // with the same kernel and border; box filters of 8u and 32f, C1 and C3, against OpenCV's blur;
 // medians of 8u against OpenCV's medianBlur; the 3x3 Laplace against filter2D;
-// the 3x3 Sobel against OpenCV's Sobel; and a memcpy
-// of the bytes read and written.
+// the 3x3 Sobel against OpenCV's Sobel; the Sobel gradient's magnitude and its four planes against
+// two OpenCV Sobels and the magnitude or cartToPolar; and a memcpy of the bytes read and written.
 #include "bench.hpp"
 
 #include <vector>
@@ -208,6 +208,90 @@ void fixedKernels()
                                                         buffer);
         },
         PXL_PEER(cv::Sobel(src, dst, CV_16S, 0, 1, 3, 1, 0, cv::BORDER_REPLICATE)));
+    oneChannel(
+        "FilterSobel 3x3 8u16s C1 L1" + pxlbench::sizeTag(), 2,
+        [=] {
+            int size = 0;
+            pxliFilterSobelGetBufferSize(roi, pxlMask3x3, pxlDt8u, pxlDt16s, 1, &size);
+            return size;
+        },
+        [=](const pxlbench::Image& a, pxlbench::Image& d, Pxl8u* buffer) {
+            return pxliFilterSobel_8u16s_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl16s>(), d.step, roi, pxlMask3x3, 2, pxlBorderReplicate, 0, buffer);
+        },
+        PXL_PEER({
+            static cv::Mat gx;
+            static cv::Mat gy;
+            cv::Sobel(src, gx, CV_16S, 1, 0, 3, 1, 0, cv::BORDER_REPLICATE);
+            cv::Sobel(src, gy, CV_16S, 0, 1, 3, 1, 0, cv::BORDER_REPLICATE);
+            dst = cv::abs(gx) + cv::abs(gy);
+        }));
+}
+
+// The 3x3 Sobel gradient of 32f: its Euclidean magnitude alone, or all four planes, against two
+// OpenCV Sobels and the magnitude or cartToPolar.
+void sobel32f(bool allPlanes)
+{
+    const std::string name = std::string(allPlanes ? "GradientVectorSobel 3x3 32f C1 4 planes" : "FilterSobel 3x3 32f C1 L2") +
+                             pxlbench::sizeTag();
+    const int planes = allPlanes ? 4 : 1;
+    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 4), gx(W, H, 4), gy(W, H, 4), mag(W, H, 4), angle(W, H, 4);
+        pxlbench::pixelValues<Pxl32f>(a);
+        const PxliSize roi{W, H};
+        int size = 0;
+        if (allPlanes) pxliGradientVectorGetBufferSize(roi, pxlMask3x3, pxlDt32f, 1, &size);
+        else pxliFilterSobelGetBufferSize(roi, pxlMask3x3, pxlDt32f, pxlDt32f, 1, &size);
+        std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
+        for (auto _ : s) {
+            if (allPlanes)
+                benchmark::DoNotOptimize(pxliGradientVectorSobel_32f_C1R(a.as<Pxl32f>(), a.step, gx.as<Pxl32f>(), gx.step, gy.as<Pxl32f>(),
+                                                                         gy.step, mag.as<Pxl32f>(), mag.step, angle.as<Pxl32f>(), angle.step,
+                                                                         roi, pxlMask3x3, 4, pxlBorderReplicate, 0, buffer.data()));
+            else
+                benchmark::DoNotOptimize(pxliFilterSobel_32f_C1R(a.as<Pxl32f>(), a.step, mag.as<Pxl32f>(), mag.step, roi, pxlMask3x3, 4,
+                                                                 pxlBorderReplicate, 0, buffer.data()));
+            benchmark::ClobberMemory();
+        }
+    });
+    const std::size_t bytes = static_cast<std::size_t>(W) * H * 4;
+    pxlbench::addMemcpy(name, bytes, bytes * static_cast<std::size_t>(planes));
+#ifdef PXL_BENCH_OPENCV
+    pxlbench::add(name, "peer", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 4), gx(W, H, 4), gy(W, H, 4), mag(W, H, 4), angle(W, H, 4);
+        pxlbench::pixelValues<Pxl32f>(a);
+        cv::Mat ma = a.mat(pxlbench::k32fC1), mx = gx.mat(pxlbench::k32fC1), my = gy.mat(pxlbench::k32fC1);
+        cv::Mat mm = mag.mat(pxlbench::k32fC1), mt = angle.mat(pxlbench::k32fC1);
+        for (auto _ : s) {
+            cv::Sobel(ma, mx, CV_32F, 1, 0, 3, 1, 0, cv::BORDER_REPLICATE);
+            cv::Sobel(ma, my, CV_32F, 0, 1, 3, 1, 0, cv::BORDER_REPLICATE);
+            if (allPlanes) cv::cartToPolar(mx, my, mm, mt);
+            else cv::magnitude(mx, my, mm);
+            benchmark::ClobberMemory();
+        }
+    });
+#endif
+}
+
+// The 3x3 Sobel gradient of the strongest of three 8u channels, its magnitude and angle (the peer
+// has no such op: memcpy only).
+void colourGradient()
+{
+    const std::string name = "GradientVectorSobel 3x3 8u16s C3C1 mag angle" + pxlbench::sizeTag();
+    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 3), mag(W, H, 2), angle(W, H, 4);
+        const PxliSize roi{W, H};
+        int size = 0;
+        pxliGradientVectorGetBufferSize(roi, pxlMask3x3, pxlDt8u, 3, &size);
+        std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
+        for (auto _ : s) {
+            benchmark::DoNotOptimize(pxliGradientVectorSobel_8u16s_C3C1R(a.as<Pxl8u>(), a.step, nullptr, 0, nullptr, 0, mag.as<Pxl16s>(),
+                                                                         mag.step, angle.as<Pxl32f>(), angle.step, roi, pxlMask3x3, 4,
+                                                                         pxlBorderReplicate, nullptr, buffer.data()));
+            benchmark::ClobberMemory();
+        }
+    });
+    const std::size_t pixels = static_cast<std::size_t>(W) * H;
+    pxlbench::addMemcpy(name, pixels * 3, pixels * 6);
 }
 
 void filterBenchmarks()
@@ -223,6 +307,9 @@ void filterBenchmarks()
         filter<Pxl32f>(side, pxlbench::k32fC1);
     }
     fixedKernels();
+    sobel32f(false);
+    sobel32f(true);
+    colourGradient();
 }
 
 const pxlbench::Registrar registrar(filterBenchmarks);
