@@ -435,6 +435,47 @@ void medianDemo(Context& ctx)
     });
 }
 
+// Gradients: the Sobel gradient of the colour image, the strongest channel's at each pixel, as its
+// magnitude (a quarter of it, saturated) and its direction (the angle from -pi to pi over 0 to
+// 255, where the gradient is not faint); the Sobel magnitude of the gray image.
+void gradientDemo(Context& ctx)
+{
+    const Image& src = ctx.rgb;
+    const PxliSize roi = src.size();
+    const int w = src.width, h = src.height;
+    int size = 0;
+    pxliGradientVectorGetBufferSize(roi, pxlMask3x3, pxlDt8u, 3, &size);
+    std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
+    std::vector<Pxl16s> mag(static_cast<std::size_t>(w) * h);
+    std::vector<Pxl32f> angle(static_cast<std::size_t>(w) * h);
+    const int magStep = w * 2, angleStep = w * 4;
+    auto gradient = [&] {
+        pxliGradientVectorSobel_8u16s_C3C1R(src.data, src.step, nullptr, 0, nullptr, 0, mag.data(), magStep, angle.data(), angleStep, roi,
+                                            pxlMask3x3, 4, pxlBorderReplicate, nullptr, buffer.data());
+    };
+    gradient();
+    Image strength(w, h, 1), direction(w, h, 1);
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x) {
+            const int m = mag[static_cast<std::size_t>(y) * w + x];
+            const float a = angle[static_cast<std::size_t>(y) * w + x];
+            strength.data[y * strength.step + x] = static_cast<Pxl8u>(std::min(m / 4, 255));
+            direction.data[y * direction.step + x] = m < 32 ? 0 : static_cast<Pxl8u>((a + 3.14159265f) * (255.0f / 6.2831853f));
+        }
+    ctx.save("gradient_magnitude", strength);
+    ctx.save("gradient_direction", direction);
+    ctx.time("pxliGradientVectorSobel_8u16s_C3C1R (3x3)", std::to_string(w) + "x" + std::to_string(h), static_cast<double>(w) * h,
+             gradient);
+
+    int sobelSize = 0;
+    pxliFilterSobelGetBufferSize(roi, pxlMask3x3, pxlDt8u, pxlDt16s, 1, &sobelSize);
+    std::vector<Pxl8u> sobelBuffer(static_cast<std::size_t>(sobelSize));
+    ctx.time("pxliFilterSobel_8u16s_C1R (3x3, |gx| + |gy|)", std::to_string(w) + "x" + std::to_string(h), static_cast<double>(w) * h, [&] {
+        pxliFilterSobel_8u16s_C1R(ctx.gray.data, ctx.gray.step, mag.data(), magStep, roi, pxlMask3x3, 2, pxlBorderReplicate, 0,
+                                  sobelBuffer.data());
+    });
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -451,6 +492,7 @@ const std::vector<Entry>& entries()
         {"statistics", statisticsDemo},
         {"filters", filterDemo},
         {"median", medianDemo},
+        {"gradients", gradientDemo},
     };
     return all;
 }
