@@ -22,7 +22,7 @@ template <Weights K, class S, class D, class Rows> void derivativeRow(const Rows
     decltype(rows(0)) r[5];
     for (int i = 0; i < K.side; ++i) r[i] = rows(i);
     for (int x = 0; x < width; ++x) {
-        const A sum = windowSum<K, 1, A>(r, x);
+        const A sum = windowSum<K, 1, A, S>(r, x);
         if constexpr (std::is_same_v<S, Pxl16s>) out[x] = static_cast<D>(std::clamp<A>(sum, INT16_MIN, INT16_MAX));
         else out[x] = static_cast<D>(sum);
     }

@@ -61,8 +61,9 @@ inline constexpr Weights k5x5[11] = {outer(kBinomial, kFalling), outer(kRising, 
                                      outer(kEven, kSlopeDown), outer(kSlopeUp, kEven), {}, {},
                                      outer(kBinomial, kSecond), outer(kSecond, kBinomial), outer(kBinomial, kRising)};
 
-// The weighted sum of the window whose top-left sample is r[i][at], pixels N samples apart.
-template <Weights K, int N, class A, class Row> inline A windowSum(const Row* r, int at)
+// The weighted sum of the window whose top-left sample is r[i][at], pixels N samples apart. The
+// rows keep their declared type (S is named, not deduced, which would drop the alignment of 1).
+template <Weights K, int N, class A, class S> inline A windowSum(const Loose<S>* const* r, int at)
 {
     A sum{};
     bool first = true;
@@ -161,8 +162,8 @@ template <class K, class S, int N, class D> void gradientImage(const RingSource<
         for (int x0 = 0; x0 < width; x0 += kStretch) {
             const int len = std::min(kStretch, width - x0);
             for (int i = 0; i < len * N; ++i) {
-                sx[i] = windowSum<X, N, A>(r, x0 * N + i);
-                sy[i] = windowSum<Y, N, A>(r, x0 * N + i);
+                sx[i] = windowSum<X, N, A, S>(r, x0 * N + i);
+                sy[i] = windowSum<Y, N, A, S>(r, x0 * N + i);
             }
             const A* gx = sx;
             const A* gy = sy;
