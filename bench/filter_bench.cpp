@@ -272,26 +272,48 @@ void sobel32f(bool allPlanes)
 #endif
 }
 
-// The 3x3 Sobel gradient of the strongest of three 8u channels, its magnitude and angle (the peer
-// has no such op: memcpy only).
-void colourGradient()
+// The magnitude and angle of the 3x3 Sobel gradient of 8u, one channel or the strongest of three;
+// the first against two OpenCV Sobels into 32f and cartToPolar (the peer has no three-channel op).
+void gradient8u(int channels)
 {
-    const std::string name = "GradientVectorSobel 3x3 8u16s C3C1 mag angle" + pxlbench::sizeTag();
+    const std::string name = "GradientVectorSobel 3x3 8u16s " + std::string(channels == 1 ? "C1" : "C3C1") + " mag angle" +
+                             pxlbench::sizeTag();
     pxlbench::add(name, "pxl", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, 3), mag(W, H, 2), angle(W, H, 4);
+        pxlbench::Image a(W, H, channels), mag(W, H, 2), angle(W, H, 4);
         const PxliSize roi{W, H};
         int size = 0;
-        pxliGradientVectorGetBufferSize(roi, pxlMask3x3, pxlDt8u, 3, &size);
+        pxliGradientVectorGetBufferSize(roi, pxlMask3x3, pxlDt8u, channels, &size);
         std::vector<Pxl8u> buffer(static_cast<std::size_t>(size));
+        const Pxl8u* src = a.as<Pxl8u>();
+        Pxl16s* m = mag.as<Pxl16s>();
+        Pxl32f* t = angle.as<Pxl32f>();
         for (auto _ : s) {
-            benchmark::DoNotOptimize(pxliGradientVectorSobel_8u16s_C3C1R(a.as<Pxl8u>(), a.step, nullptr, 0, nullptr, 0, mag.as<Pxl16s>(),
-                                                                         mag.step, angle.as<Pxl32f>(), angle.step, roi, pxlMask3x3, 4,
-                                                                         pxlBorderReplicate, nullptr, buffer.data()));
+            if (channels == 1)
+                benchmark::DoNotOptimize(pxliGradientVectorSobel_8u16s_C1R(src, a.step, nullptr, 0, nullptr, 0, m, mag.step, t, angle.step,
+                                                                           roi, pxlMask3x3, 4, pxlBorderReplicate, 0, buffer.data()));
+            else
+                benchmark::DoNotOptimize(pxliGradientVectorSobel_8u16s_C3C1R(src, a.step, nullptr, 0, nullptr, 0, m, mag.step, t,
+                                                                             angle.step, roi, pxlMask3x3, 4, pxlBorderReplicate, nullptr,
+                                                                             buffer.data()));
             benchmark::ClobberMemory();
         }
     });
     const std::size_t pixels = static_cast<std::size_t>(W) * H;
-    pxlbench::addMemcpy(name, pixels * 3, pixels * 6);
+    pxlbench::addMemcpy(name, pixels * static_cast<std::size_t>(channels), pixels * 6);
+#ifdef PXL_BENCH_OPENCV
+    if (channels == 1)
+        pxlbench::add(name, "peer", [=](benchmark::State& s) {
+            pxlbench::Image a(W, H, 1), gx(W, H, 4), gy(W, H, 4), mag(W, H, 4), angle(W, H, 4);
+            cv::Mat ma = a.mat(pxlbench::k8uC1), mx = gx.mat(pxlbench::k32fC1), my = gy.mat(pxlbench::k32fC1);
+            cv::Mat mm = mag.mat(pxlbench::k32fC1), mt = angle.mat(pxlbench::k32fC1);
+            for (auto _ : s) {
+                cv::Sobel(ma, mx, CV_32F, 1, 0, 3, 1, 0, cv::BORDER_REPLICATE);
+                cv::Sobel(ma, my, CV_32F, 0, 1, 3, 1, 0, cv::BORDER_REPLICATE);
+                cv::cartToPolar(mx, my, mm, mt);
+                benchmark::ClobberMemory();
+            }
+        });
+#endif
 }
 
 void filterBenchmarks()
@@ -309,7 +331,8 @@ void filterBenchmarks()
     fixedKernels();
     sobel32f(false);
     sobel32f(true);
-    colourGradient();
+    gradient8u(1);
+    gradient8u(3);
 }
 
 const pxlbench::Registrar registrar(filterBenchmarks);

@@ -19,5 +19,6 @@
 #include "pxlipx/statistics.h"
 #include "pxlipx/filtering.h"
 #include "pxlipx/features.h"
+#include "pxlipx/geometry.h"
 
 #endif

@@ -7,3 +7,4 @@
 #include "statistics/statistics.hpp"
 #include "filtering/filtering.hpp"
 #include "features/features.hpp"
+#include "geometry/geometry.hpp"

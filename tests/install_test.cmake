@@ -16,6 +16,7 @@ run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples -B ${WORK_DIR}/cmake-build
     -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_C_COMPILER=${C_COMPILER} -DCMAKE_BUILD_TYPE=Release)
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/cmake-build)
 run(${WORK_DIR}/cmake-build/hello)
+run(${WORK_DIR}/cmake-build/resize_tiles)
 
 find_program(PKG_CONFIG pkg-config)
 if(NOT PKG_CONFIG)

@@ -53,7 +53,7 @@ constexpr int64_t round64(int64_t n) { return (n + 63) & ~int64_t{63}; }
 
 template <class P> Record* recordAt(P* p)
 {
-    return reinterpret_cast<Record*>((reinterpret_cast<uintptr_t>(p) + 63) & ~uintptr_t{63});
+    return alignedRecord<Record>(p);
 }
 template <class T> T* tableOf(const Record* r, uint32_t offset)
 {

@@ -43,6 +43,13 @@ using C3 = Layout<3, 3>;
 using C4 = Layout<4, 4>;
 using AC4 = Layout<4, 3>;
 
+// A record in a caller's buffer starts at the buffer's first 64-byte boundary (its size queries
+// count the 64 bytes this may take).
+template <class R, class P> R* alignedRecord(P* p)
+{
+    return reinterpret_cast<R*>((reinterpret_cast<uintptr_t>(p) + 63) & ~uintptr_t{63});
+}
+
 inline bool badSize(PxliSize roi) { return roi.width < 1 || roi.height < 1; }
 
 // The run-time sample types that the families taking a type code accept, and their widths.

@@ -476,6 +476,37 @@ void gradientDemo(Context& ctx)
     });
 }
 
+// Resize: the colour image reduced to half its size, and a 128x96 crop of its middle enlarged four
+// times, linear and nearest.
+void resizeDemo(Context& ctx)
+{
+    const Image& src = ctx.rgb;
+    auto resize = [&](const Pxl8u* from, PxliSize fromSize, const Image& to, int interpolation, const std::string& file, const std::string& label) {
+        const PxliSize toSize = to.size();
+        int specSize = 0, initSize = 0, bufferSize = 0;
+        pxliResizeGetSize_8u(fromSize, toSize, interpolation, 0, &specSize, &initSize);
+        std::vector<unsigned char> spec(static_cast<std::size_t>(specSize));
+        auto* record = reinterpret_cast<PxliResizeSpec*>(spec.data());
+        if (interpolation == pxlInterpLinear) pxliResizeLinearInit_8u(fromSize, toSize, record);
+        else pxliResizeNearestInit_8u(fromSize, toSize, record);
+        pxliResizeGetBufferSize_8u(record, toSize, 3, &bufferSize);
+        std::vector<Pxl8u> buffer(static_cast<std::size_t>(bufferSize));
+        makeSaveTime(ctx, file, to, label, [&] {
+            if (interpolation == pxlInterpLinear)
+                pxliResizeLinear_8u_C3R(from, src.step, to.data, to.step, {0, 0}, toSize, pxlBorderReplicate, nullptr, record, buffer.data());
+            else
+                pxliResizeNearest_8u_C3R(from, src.step, to.data, to.step, {0, 0}, toSize, record, buffer.data());
+        });
+    };
+    Image half(src.width / 2, src.height / 2, 3);
+    resize(src.data, src.size(), half, pxlInterpLinear, "resize_half", "pxliResizeLinear_8u_C3R (to half)");
+    const PxliSize crop{128, 96};
+    const Pxl8u* middle = src.data + (src.height - crop.height) / 2 * src.step + (src.width - crop.width) / 2 * 3;
+    Image linear(crop.width * 4, crop.height * 4, 3), nearest(crop.width * 4, crop.height * 4, 3);
+    resize(middle, crop, linear, pxlInterpLinear, "resize_x4_linear", "pxliResizeLinear_8u_C3R (x4)");
+    resize(middle, crop, nearest, pxlInterpNearest, "resize_x4_nearest", "pxliResizeNearest_8u_C3R (x4)");
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -493,6 +524,7 @@ const std::vector<Entry>& entries()
         {"filters", filterDemo},
         {"median", medianDemo},
         {"gradients", gradientDemo},
+        {"resize", resizeDemo},
     };
     return all;
 }
