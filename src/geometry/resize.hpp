@@ -66,43 +66,82 @@ template <class F, class T> inline F difference(T hi, T lo)
     else return static_cast<F>(int32_t{hi} - int32_t{lo});
 }
 
-// One source row interpolated along the row: for each destination column j of C samples, the
-// pixel at x[j] (in samples) and the next, weighted by fx[j].
-template <class T, int C, class F> void linearRow(const T* row, const int32_t* x, const F* fx, int w, F* out)
+// One source row interpolated along the row, sample by sample: the sample at xs[k] and the same
+// channel of the next pixel, C samples on, weighted by fs[k]. Samples are read as the floating type
+// (integers converted exactly, so their difference is the exact integer difference), which lets
+// the loads be vector gathers.
+template <int C, class F> void linearRow(const F* __restrict row, const int32_t* __restrict xs, const F* __restrict fs, int n, F* __restrict out)
 {
-    for (int j = 0; j < w; ++j)
-        for (int c = 0; c < C; ++c) {
-            const T p0 = row[x[j] + c], p1 = row[x[j] + C + c];
-            out[j * C + c] = difference<F>(p1, p0) * fx[j] + static_cast<F>(p0);
-        }
+    for (int k = 0; k < n; ++k) {
+        const F p0 = row[xs[k]], p1 = row[xs[k] + C];
+        out[k] = (p1 - p0) * fs[k] + p0;
+    }
+}
+template <class T, int C, class F> void linearRowOf(const T* __restrict row, const int32_t* __restrict xs, const F* __restrict fs, int n, F* __restrict out)
+{
+    for (int k = 0; k < n; ++k) {
+        const T p0 = row[xs[k]], p1 = row[xs[k] + C];
+        out[k] = difference<F>(p1, p0) * fs[k] + static_cast<F>(p0);
+    }
 }
 
 // Two interpolated rows blended down by wy and stored.
-template <class T, class F> void linearColumn(const F* lo, const F* hi, F wy, int n, T* out)
+template <class T, class F> void linearColumn(const F* __restrict lo, const F* __restrict hi, F wy, int n, T* __restrict out)
 {
     for (int i = 0; i < n; ++i) out[i] = storeSample<T>((hi[i] - lo[i]) * wy + lo[i]);
 }
 
 // The interior of a tile: every tap inside the source memory. Each source row is interpolated
 // along the row once, into the two-row ring, and reused by every destination row that needs it.
+// Columns go in bands whose taps are spelled out per sample on the stack, relative to the band's
+// first source sample; integer rows are first converted to float over the band's source span
+// where it is short enough (a reduction by a large factor reads the samples where they lie).
 template <class T, int C, class F>
 void linearInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h, const int32_t* y, const int32_t* x, const F* fy,
                     const F* fx, F* ringA, F* ringB)
 {
-    int cur = y[0] - 1;
-    F* lo = ringA;
-    F* hi = ringB;
-    linearRow<T, C>(rowAt(src, srcStep, y[0]), x, fx, w, hi);
-    for (int i = 0; i < h; ++i) {
-        const int yi = y[i];
-        if (cur < yi) {
-            // The newest row (hi) becomes lo when the next row follows it; otherwise both are new.
-            std::swap(lo, hi);
-            linearRow<T, C>(rowAt(src, srcStep, yi + 1), x, fx, w, hi);
-            if (cur + 1 < yi) linearRow<T, C>(rowAt(src, srcStep, yi), x, fx, w, lo);
-            cur = yi;
+    constexpr bool kConvert = !std::is_same_v<T, F>;
+    constexpr int kBandSamples = 1536, kBand = kBandSamples / C, kSpan = kConvert ? 4096 : 1;
+    int32_t bandX[kBandSamples];
+    F bandF[kBandSamples];
+    F span[kSpan];
+    for (int j0 = 0; j0 < w; j0 += kBand) {
+        const int n = std::min(kBand, w - j0) * C;
+        const int first = x[j0], last = x[j0 + n / C - 1] + 2 * C;  // the band's source samples [first, last)
+        const bool converted = kConvert && last - first <= kSpan;
+        const int base = converted ? first : 0;
+        for (int k = 0; k < n; ++k) {
+            bandX[k] = x[j0 + k / C] + k % C - base;
+            bandF[k] = fx[j0 + k / C];
         }
-        linearColumn(lo, hi, fy[i], w * C, rowAt(dst, dstStep, i));
+        auto interpolate = [&](int row, F* out) {
+            const T* r = rowAt(src, srcStep, row);
+            if constexpr (kConvert) {
+                if (converted) {
+                    for (int k = 0; k < last - first; ++k) span[k] = static_cast<F>(r[first + k]);
+                    linearRow<C>(span, bandX, bandF, n, out);
+                } else {
+                    linearRowOf<T, C>(r, bandX, bandF, n, out);
+                }
+            } else {
+                linearRow<C>(r, bandX, bandF, n, out);
+            }
+        };
+        int cur = y[0] - 1;
+        F* lo = ringA;
+        F* hi = ringB;
+        interpolate(y[0], hi);
+        for (int i = 0; i < h; ++i) {
+            const int yi = y[i];
+            if (cur < yi) {
+                // The newest row (hi) becomes lo when the next row follows it; otherwise both are new.
+                std::swap(lo, hi);
+                interpolate(yi + 1, hi);
+                if (cur + 1 < yi) interpolate(yi, lo);
+                cur = yi;
+            }
+            linearColumn(lo, hi, fy[i], n, rowAt(dst, dstStep, i) + j0 * C);
+        }
     }
 }
 
