@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <limits>
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 namespace pxl::geom {
@@ -182,12 +184,17 @@ void linearBorder(const T* src, int srcStep, T* dst, int dstStep, int w, int h, 
     for (int i = h - s.bottom; i < h; ++i) clampedRow(i, s.yHi);
 }
 
-// Nearest: each destination pixel a copy of the source pixel at (x[j], y[i]), x in samples.
+// Nearest: each destination pixel a copy of the source pixel at (x[j], y[i]), x in samples. A row
+// that takes the same source row as the one before is a copy of that destination row.
 template <class T, int C> void nearestTile(const T* src, int srcStep, T* dst, int dstStep, int w, int h, const int32_t* y, const int32_t* x)
 {
     for (int i = 0; i < h; ++i) {
-        const T* r = rowAt(src, srcStep, y[i]);
         T* out = rowAt(dst, dstStep, i);
+        if (i > 0 && y[i] == y[i - 1]) {
+            std::memmove(out, rowAt(dst, dstStep, i - 1), sizeof(T) * C * static_cast<std::size_t>(w));
+            continue;
+        }
+        const T* r = rowAt(src, srcStep, y[i]);
         for (int j = 0; j < w; ++j)
             for (int c = 0; c < C; ++c) out[j * C + c] = r[x[j] + c];
     }
