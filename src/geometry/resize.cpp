@@ -79,6 +79,14 @@ PxlStatus sizes(PxliSize src, PxliSize dst, int interpolation, bool antialiasing
     return pxlStatusOk;
 }
 
+// The checks of the forms that take a type code: the type (64f for linear only), then sides
+// above 2^29 - 1.
+PxlStatus typeAndSides(PxliSize src, PxliSize dst, int interpolation, PxlDataType dataType)
+{
+    if (!knownDataType(dataType) && !(dataType == pxlDt64f && interpolation == pxlInterpLinear)) return pxlStatusBadDataType;
+    return anyAbove(src, dst, kLargestSide) ? pxlStatusSizeOverflow : pxlStatusOk;
+}
+
 bool knownInterpolation(int i)
 {
     return i == 0 || i == pxlInterpNearest || i == pxlInterpLinear || i == pxlInterpCubic || i == pxlInterpSuper || i == pxlInterpLanczos;
@@ -94,8 +102,7 @@ PxlStatus getSize(PxliSize src, PxliSize dst, int interpolation, int antialiasin
     if (anyNegative(src, dst)) return pxlStatusBadSize;
     if (!knownInterpolation(interpolation)) return pxlStatusBadInterpolation;
     if (typed) {
-        if (!knownDataType(dataType) && !(dataType == pxlDt64f && interpolation == pxlInterpLinear)) return pxlStatusBadDataType;
-        if (anyAbove(src, dst, kLargestSide)) return pxlStatusSizeOverflow;
+        if (const PxlStatus s = typeAndSides(src, dst, interpolation, dataType); s != pxlStatusOk) return s;
         wide = dataType == pxlDt64f;
     }
     if (sourceTooSmall(interpolation, src, dst)) return pxlStatusBadSize;
@@ -185,8 +192,7 @@ PxlStatus checkedInit(PxliSize src, PxliSize dst, int interpolation, bool wide, 
     if (anyZero(src, dst)) return pxlStatusWarnZeroSize;
     if (anyNegative(src, dst)) return pxlStatusBadSize;
     if (typed) {
-        if (!knownDataType(dataType) && !(dataType == pxlDt64f && interpolation == pxlInterpLinear)) return pxlStatusBadDataType;
-        if (anyAbove(src, dst, kLargestSide)) return pxlStatusSizeOverflow;
+        if (const PxlStatus s = typeAndSides(src, dst, interpolation, dataType); s != pxlStatusOk) return s;
         wide = dataType == pxlDt64f;
     }
     if (sourceTooSmall(interpolation, src, dst)) return pxlStatusBadSize;

@@ -69,17 +69,11 @@ template <class F, class T> inline F difference(T hi, T lo)
 }
 
 // One source row interpolated along the row, sample by sample: the sample at xs[k] and the same
-// channel of the next pixel, C samples on, weighted by fs[k]. Samples are read as the floating type
-// (integers converted exactly, so their difference is the exact integer difference), which lets
-// the loads be vector gathers.
-template <int C, class F> void linearRow(const F* __restrict row, const int32_t* __restrict xs, const F* __restrict fs, int n, F* __restrict out)
-{
-    for (int k = 0; k < n; ++k) {
-        const F p0 = row[xs[k]], p1 = row[xs[k] + C];
-        out[k] = (p1 - p0) * fs[k] + p0;
-    }
-}
-template <class T, int C, class F> void linearRowOf(const T* __restrict row, const int32_t* __restrict xs, const F* __restrict fs, int n, F* __restrict out)
+// channel of the next pixel, C samples on, weighted by fs[k]. Integer rows read as the floating
+// type (converted exactly, so their difference is the exact integer difference) let the loads be
+// vector gathers.
+template <class T, int C, class F>
+void linearRow(const T* __restrict row, const int32_t* __restrict xs, const F* __restrict fs, int n, F* __restrict out)
 {
     for (int k = 0; k < n; ++k) {
         const T p0 = row[xs[k]], p1 = row[xs[k] + C];
@@ -121,12 +115,12 @@ void linearInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h
             if constexpr (kConvert) {
                 if (converted) {
                     for (int k = 0; k < last - first; ++k) span[k] = static_cast<F>(r[first + k]);
-                    linearRow<C>(span, bandX, bandF, n, out);
+                    linearRow<F, C>(span, bandX, bandF, n, out);
                 } else {
-                    linearRowOf<T, C>(r, bandX, bandF, n, out);
+                    linearRow<T, C>(r, bandX, bandF, n, out);
                 }
             } else {
-                linearRow<C>(r, bandX, bandF, n, out);
+                linearRow<T, C>(r, bandX, bandF, n, out);
             }
         };
         int cur = y[0] - 1;
