@@ -415,9 +415,17 @@ PxlStatus resizeLinear(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliPoi
     if (s.top || s.bottom || s.left || s.right) linearBorder<T, C>(pSrc, srcStep, pDst, dstStep, t.w, t.h, t.y, t.x, fy, fx, s);
 
     const int w = t.w - s.left - s.right, h = t.h - s.top - s.bottom;
-    if (w > 0 && h > 0)
-        linearInterior<T, C>(pSrc, srcStep, rowAt(pDst, dstStep, s.top) + s.left * C, dstStep, w, h, t.y + s.top, t.x + s.left, fy + s.top,
-                             fx + s.left, ringA, ringB);
+    if (w > 0 && h > 0) {
+        const int32_t *y = t.y + s.top, *x = t.x + s.left;
+        T* to = rowAt(pDst, dstStep, s.top) + s.left * C;
+        if constexpr (std::is_integral_v<T>) {
+            if (halves<C>(w, h, y, x, fy + s.top, fx + s.left)) {
+                halveInterior<T, C>(pSrc, srcStep, to, dstStep, w, h, y, x);
+                return overrun(*r, dstSize);
+            }
+        }
+        linearInterior<T, C>(pSrc, srcStep, to, dstStep, w, h, y, x, fy + s.top, fx + s.left, ringA, ringB);
+    }
     return overrun(*r, dstSize);
 }
 

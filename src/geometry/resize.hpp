@@ -13,6 +13,10 @@
 #include <cstring>
 #include <type_traits>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace pxl::geom {
 
 inline constexpr uint32_t kResizeIdentity = 0x4B617389u, kResizeIdentityL = 0x4B61738Cu;
@@ -68,17 +72,49 @@ template <class F, class T> inline F difference(T hi, T lo)
     else return static_cast<F>(int32_t{hi} - int32_t{lo});
 }
 
-// One source row interpolated along the row, sample by sample: the sample at xs[k] and the same
-// channel of the next pixel, C samples on, weighted by fs[k]. Integer rows read as the floating
-// type (converted exactly, so their difference is the exact integer difference) let the loads be
-// vector gathers.
+// One source row interpolated along the row: for pixel k, each channel's sample at xs[k] and the
+// same channel of the next pixel, C samples on, weighted by fs[k].
 template <class T, int C, class F>
 void linearRow(const T* __restrict row, const int32_t* __restrict xs, const F* __restrict fs, int n, F* __restrict out)
 {
-    for (int k = 0; k < n; ++k) {
-        const T p0 = row[xs[k]], p1 = row[xs[k] + C];
-        out[k] = difference<F>(p1, p0) * fs[k] + static_cast<F>(p0);
+    for (int k = 0; k < n; ++k)
+        for (int c = 0; c < C; ++c) {
+            const T p0 = row[xs[k] + c], p1 = row[xs[k] + C + c];
+            out[k * C + c] = difference<F>(p1, p0) * fs[k] + static_cast<F>(p0);
+        }
+}
+
+// The same over a row of floats that may be read up to four samples past the last tap: four
+// lanes at a time, one pixel per step for three and four channels (a three-channel step also
+// writes the next pixel's first sample, which the next step writes again), four pixels for one
+// channel. The same operations in the same order as linearRow, so the same bits. Returns the
+// pixels done; the rest are left to linearRow.
+template <int C> int linearRowPadded(const float* __restrict row, const int32_t* __restrict xs, const float* __restrict fs, int n, float* __restrict out)
+{
+#if defined(__SSE2__)
+    int k = 0;
+    if constexpr (C == 1) {
+        for (; k + 4 <= n; k += 4) {
+            const __m128d q0 = _mm_loadl_pd(_mm_setzero_pd(), reinterpret_cast<const double*>(row + xs[k]));
+            const __m128d q1 = _mm_loadh_pd(q0, reinterpret_cast<const double*>(row + xs[k + 1]));
+            const __m128d q2 = _mm_loadl_pd(_mm_setzero_pd(), reinterpret_cast<const double*>(row + xs[k + 2]));
+            const __m128d q3 = _mm_loadh_pd(q2, reinterpret_cast<const double*>(row + xs[k + 3]));
+            const __m128 a = _mm_castpd_ps(q1), b = _mm_castpd_ps(q3);
+            const __m128 p0 = _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)), p1 = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
+            _mm_storeu_ps(out + k, _mm_add_ps(_mm_mul_ps(_mm_sub_ps(p1, p0), _mm_loadu_ps(fs + k)), p0));
+        }
+    } else {
+        const int end = C == 4 ? n : n - 1;  // a three-channel step writes one sample past its pixel
+        for (; k < end; ++k) {
+            const __m128 p0 = _mm_loadu_ps(row + xs[k]), p1 = _mm_loadu_ps(row + xs[k] + C);
+            _mm_storeu_ps(out + k * C, _mm_add_ps(_mm_mul_ps(_mm_sub_ps(p1, p0), _mm_set1_ps(fs[k])), p0));
+        }
     }
+    return k;
+#else
+    (void)row, (void)xs, (void)fs, (void)n, (void)out;
+    return 0;
+#endif
 }
 
 // Two interpolated rows blended down by wy and stored.
@@ -89,39 +125,40 @@ template <class T, class F> void linearColumn(const F* __restrict lo, const F* _
 
 // The interior of a tile: every tap inside the source memory. Each source row is interpolated
 // along the row once, into the two-row ring, and reused by every destination row that needs it.
-// Columns go in bands whose taps are spelled out per sample on the stack, relative to the band's
-// first source sample; integer rows are first converted to float over the band's source span
-// where it is short enough (a reduction by a large factor reads the samples where they lie).
+// Columns go in bands: a band's source samples are first converted to float (or copied) into a
+// padded span on the stack, where pixels are interpolated a vector at a time; the band ends where
+// the span would overflow. A reduction by so large a factor that a band would hold only a few
+// pixels reads the samples where they lie instead, one by one. Doubles go sample by sample.
 template <class T, int C, class F>
 void linearInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h, const int32_t* y, const int32_t* x, const F* fy,
                     const F* fx, F* ringA, F* ringB)
 {
-    constexpr bool kConvert = !std::is_same_v<T, F>;
-    constexpr int kBandSamples = 1536, kBand = kBandSamples / C, kSpan = kConvert ? 4096 : 1;
-    int32_t bandX[kBandSamples];
-    F bandF[kBandSamples];
-    F span[kSpan];
-    for (int j0 = 0; j0 < w; j0 += kBand) {
-        const int n = std::min(kBand, w - j0) * C;
-        const int first = x[j0], last = x[j0 + n / C - 1] + 2 * C;  // the band's source samples [first, last)
-        const bool converted = kConvert && last - first <= kSpan;
-        const int base = converted ? first : 0;
-        for (int k = 0; k < n; ++k) {
-            bandX[k] = x[j0 + k / C] + k % C - base;
-            bandF[k] = fx[j0 + k / C];
-        }
+    constexpr bool kSpan = std::is_same_v<F, float>;
+    constexpr int kBand = 1536 / C, kSpanLen = kSpan ? 4096 : 1, kPad = 4, kFewest = 16;
+    int32_t bandX[kBand];
+    float span[kSpanLen + kPad] = {};
+    for (int j0 = 0; j0 < w;) {
+        // The band [j0, j1): as many pixels as the span holds, at most kBand.
+        int j1 = std::min(j0 + kBand, w);
+        const int first = x[j0];
+        if constexpr (kSpan) j1 = static_cast<int>(std::upper_bound(x + j0, x + j1, first + kSpanLen - 2 * C) - x);
+        const bool spanned = kSpan && j1 - j0 >= kFewest;
+        if (!spanned) j1 = std::min(j0 + kBand, w);
+        const int n = j1 - j0, last = x[j1 - 1] + 2 * C;  // the band's source samples [first, last)
+        const int base = spanned ? first : 0;
+        for (int k = 0; k < n; ++k) bandX[k] = x[j0 + k] - base;
+        const F* bandF = fx + j0;
         auto interpolate = [&](int row, F* out) {
             const T* r = rowAt(src, srcStep, row);
-            if constexpr (kConvert) {
-                if (converted) {
-                    for (int k = 0; k < last - first; ++k) span[k] = static_cast<F>(r[first + k]);
-                    linearRow<F, C>(span, bandX, bandF, n, out);
-                } else {
-                    linearRow<T, C>(r, bandX, bandF, n, out);
+            if constexpr (kSpan) {
+                if (spanned) {
+                    for (int k = 0; k < last - first; ++k) span[k] = static_cast<float>(r[first + k]);
+                    const int done = linearRowPadded<C>(span, bandX, bandF, n, out);
+                    linearRow<float, C>(span, bandX + done, bandF + done, n - done, out + done * C);
+                    return;
                 }
-            } else {
-                linearRow<T, C>(r, bandX, bandF, n, out);
             }
+            linearRow<T, C>(r, bandX, bandF, n, out);
         };
         int cur = y[0] - 1;
         F* lo = ringA;
@@ -136,7 +173,47 @@ void linearInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h
                 if (cur + 1 < yi) interpolate(yi, lo);
                 cur = yi;
             }
-            linearColumn(lo, hi, fy[i], n, rowAt(dst, dstStep, i) + j0 * C);
+            linearColumn(lo, hi, fy[i], n * C, rowAt(dst, dstStep, i) + j0 * C);
+        }
+        j0 = j1;
+    }
+}
+
+// Whether an interior runs at exactly half the source's size on both axes: every destination
+// pixel then sits halfway between two source pixels, two on from the last, on both axes.
+template <int C, class F> bool halves(int w, int h, const int32_t* y, const int32_t* x, const F* fy, const F* fx)
+{
+    for (int j = 0; j < w; ++j)
+        if (fx[j] != F(0.5) || (j > 0 && x[j] != x[j - 1] + 2 * C)) return false;
+    for (int i = 0; i < h; ++i)
+        if (fy[i] != F(0.5) || (i > 0 && y[i] != y[i - 1] + 2)) return false;
+    return true;
+}
+
+// Halving integer samples: with weights of one half, every product and sum of the interpolation
+// is exact in float, so the result is the mean of the 2x2 block, rounded to nearest with ties to
+// even, and integer sums give it directly. The means of every pair of neighbouring pixels are
+// made along the whole row, contiguously, and then every other pixel's is kept (three channels
+// copy four samples, the fourth being overwritten by the next pixel).
+template <class T, int C> void halveInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h, const int32_t* y, const int32_t* x)
+{
+    using Sum = std::conditional_t<sizeof(T) == 1, uint16_t, int32_t>;
+    constexpr int kChunk = 2048 / C, kCopy = C == 1 ? 1 : 4;  // destination pixels per pass; samples copied per pixel
+    T means[2 * kChunk * C + 1];
+    for (int i = 0; i < h; ++i) {
+        const T* r0 = rowAt(src, srcStep, y[i]) + x[0];
+        const T* r1 = rowAt(src, srcStep, y[i] + 1) + x[0];
+        T* out = rowAt(dst, dstStep, i);
+        for (int j0 = 0; j0 < w; j0 += kChunk) {
+            const int n = std::min(kChunk, w - j0), from = 2 * C * j0;
+            for (int k = 0; k < 2 * C * n - C; ++k) {
+                const Sum v = static_cast<Sum>(Sum(r0[from + k]) + Sum(r0[from + k + C]) + Sum(r1[from + k]) + Sum(r1[from + k + C]));
+                means[k] = static_cast<T>((v + 1 + ((v >> 2) & 1)) >> 2);
+            }
+            T* o = out + C * j0;
+            const int whole = C == 3 ? n - 1 : n;
+            for (int j = 0; j < whole; ++j) std::memcpy(o + C * j, means + 2 * C * j, sizeof(T) * kCopy);
+            if (whole < n) std::memcpy(o + C * whole, means + 2 * C * whole, sizeof(T) * C);
         }
     }
 }
@@ -189,7 +266,13 @@ template <class T, int C> void nearestTile(const T* src, int srcStep, T* dst, in
             continue;
         }
         const T* r = rowAt(src, srcStep, y[i]);
-        for (int j = 0; j < w; ++j)
+        int j = 0;
+        if constexpr (C == 3) {
+            // Four samples a pixel, the fourth overwritten by the next pixel, while the fourth
+            // still lies inside the row's taps.
+            for (; j < w && x[j] < x[w - 1]; ++j) std::memcpy(out + j * C, r + x[j], sizeof(T) * 4);
+        }
+        for (; j < w; ++j)
             for (int c = 0; c < C; ++c) out[j * C + c] = r[x[j] + c];
     }
 }

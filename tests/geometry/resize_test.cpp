@@ -318,8 +318,39 @@ int destinationSide(Rng& rng, int s, int most)
 std::pair<PxliSize, PxliSize> randomSizes(Rng& rng, Method m)
 {
     const int least = m == Nearest ? 1 : 2, sw = sourceSide(rng, least, 40), sh = sourceSide(rng, least, 30);
+    if (rng.chance(0.2)) {  // halved exactly on both axes
+        const int hw = std::max(1, sw / 2), hh = std::max(1, sh / 2);
+        return {{2 * hw, 2 * hh}, {hw, hh}};
+    }
     const int dw = destinationSide(rng, sw, 40), dh = destinationSide(rng, sh, 30);
     return {{sw, sh}, {dw, dh}};
+}
+
+// One plan run over a source in a ring of unrelated samples, against the model: nearest, or
+// linear with the edge clamped and then with every side in memory.
+template <class T> void modelCase(Rng& rng, Method m, int ch, bool wide, PxliSize src, PxliSize dst)
+{
+    SCOPED_TRACE(::testing::Message() << pxltest::token<T>() << " C" << ch << (m == Nearest ? " nearest" : " linear") << (wide ? " _L" : "")
+                                      << " from " << src.width << "x" << src.height << " to " << dst.width << "x" << dst.height);
+    Plan<T> plan(m, wide, src, dst);
+    ASSERT_TRUE(plan.ok);
+    // The ring holds unrelated samples: a replicated border never reads it.
+    GuardedImage<T> pad = sourceWithRing<T>(rng, src, ch, false);
+    GuardedImage<T> got(dst.width, dst.height, ch);
+    const pxltest::Watch keep({&plan.rec, &pad});
+    ASSERT_EQ(runWhole<T>(plan, &pad.at(1, 1), pad.step(), got), pxlStatusOk);
+    EXPECT_TRUE(keep.unchanged()) << "the record or the source was written";
+    if (m == Nearest) {
+        const Axis ax = axisOf(m, src.width, dst.width), ay = axisOf(m, src.height, dst.height);
+        EXPECT_TRUE(pxltest::matchesEach(got, [&](int x, int y, int c) { return pad.at(ax.index[x] + 1, ay.index[y] + 1, c); }));
+        return;
+    }
+    EXPECT_TRUE(matches(got, LinearModel<T>(pad, src, dst, true)));
+    // Every side in memory: the taps past the edge read the ring, now a replica of the edge.
+    replicateRing(pad);
+    const int border = kAll | (rng.chance(0.5) ? kReplicate : 0);
+    ASSERT_EQ(runWhole<T>(plan, &pad.at(1, 1), pad.step(), got, border), pxlStatusOk);
+    EXPECT_TRUE(matches(got, LinearModel<T>(pad, src, dst, false))) << "border " << border;
 }
 
 template <class T> void modelCases(uint64_t seed, int count)
@@ -329,33 +360,21 @@ template <class T> void modelCases(uint64_t seed, int count)
         if (m == Nearest && std::is_same_v<T, Pxl64f>) continue;
         for (const int ch : {1, 3, 4})
             for (int n = 0; n < count; ++n) {
-                const bool wide = n % 2 == 1;
                 const auto sizes = randomSizes(rng, m);
-                const PxliSize src = sizes.first, dst = sizes.second;
-                SCOPED_TRACE(::testing::Message() << pxltest::token<T>() << " C" << ch << (m == Nearest ? " nearest" : " linear")
-                                                  << (wide ? " _L" : "") << " from " << src.width << "x" << src.height << " to "
-                                                  << dst.width << "x" << dst.height);
-                Plan<T> plan(m, wide, src, dst);
-                ASSERT_TRUE(plan.ok);
-                // The ring holds unrelated samples: a replicated border never reads it.
-                GuardedImage<T> pad = sourceWithRing<T>(rng, src, ch, false);
-                GuardedImage<T> got(dst.width, dst.height, ch);
-                const pxltest::Watch keep({&plan.rec, &pad});
-                ASSERT_EQ(runWhole<T>(plan, &pad.at(1, 1), pad.step(), got), pxlStatusOk);
-                EXPECT_TRUE(keep.unchanged()) << "the record or the source was written";
-                if (m == Nearest) {
-                    const Axis ax = axisOf(m, src.width, dst.width), ay = axisOf(m, src.height, dst.height);
-                    EXPECT_TRUE(pxltest::matchesEach(got, [&](int x, int y, int c) { return pad.at(ax.index[x] + 1, ay.index[y] + 1, c); }));
-                    continue;
-                }
-                EXPECT_TRUE(matches(got, LinearModel<T>(pad, src, dst, true)));
-                // Every side in memory: the taps past the edge read the ring, now a replica of the edge.
-                replicateRing(pad);
-                const int border = kAll | (rng.chance(0.5) ? kReplicate : 0);
-                ASSERT_EQ(runWhole<T>(plan, &pad.at(1, 1), pad.step(), got, border), pxlStatusOk);
-                EXPECT_TRUE(matches(got, LinearModel<T>(pad, src, dst, false))) << "border " << border;
+                modelCase<T>(rng, m, ch, n % 2 == 1, sizes.first, sizes.second);
             }
     }
+}
+
+// Rows long enough to be taken in several bands: enlarged, reduced by factors that cut the
+// bands short, reduced so far that the samples are read where they lie, and halved.
+template <class T> void wideCases(uint64_t seed)
+{
+    Rng rng(seed);
+    const std::pair<PxliSize, PxliSize> sizes[] = {{{700, 3}, {1500, 4}}, {{3001, 3}, {601, 2}}, {{5000, 2}, {19, 1}}, {{1200, 6}, {600, 3}},
+                                                   {{2050, 4}, {1025, 2}}};
+    for (const int ch : {1, 3, 4})
+        for (const auto& s : sizes) modelCase<T>(rng, Linear, ch, rng.chance(0.5), s.first, s.second);
 }
 
 TEST(Resize, EveryTypeAndLayoutAgainstTheModel)
@@ -365,6 +384,15 @@ TEST(Resize, EveryTypeAndLayoutAgainstTheModel)
     modelCases<Pxl16s>(3, 8);
     modelCases<Pxl32f>(4, 8);
     modelCases<Pxl64f>(5, 8);
+}
+
+TEST(Resize, WideRowsAgainstTheModel)
+{
+    wideCases<Pxl8u>(6);
+    wideCases<Pxl16u>(7);
+    wideCases<Pxl16s>(8);
+    wideCases<Pxl32f>(9);
+    wideCases<Pxl64f>(10);
 }
 
 // Cut points of a side: 0, up to three inner points, the length.
