@@ -270,7 +270,8 @@ template <class T, int C> void nearestTile(const T* src, int srcStep, T* dst, in
         if constexpr (C == 3) {
             // Four samples a pixel, the fourth overwritten by the next pixel, while the fourth
             // still lies inside the row's taps.
-            for (; j < w && x[j] < x[w - 1]; ++j) std::memcpy(out + j * C, r + x[j], sizeof(T) * 4);
+            const int split = static_cast<int>(std::lower_bound(x, x + w, x[w - 1]) - x);
+            for (; j < split; ++j) std::memcpy(out + j * C, r + x[j], sizeof(T) * 4);
         }
         for (; j < w; ++j)
             for (int c = 0; c < C; ++c) out[j * C + c] = r[x[j] + c];
