@@ -57,6 +57,20 @@ PxlStatus pxliResizeLinearInit_32f(PxliSize srcSize, PxliSize dstSize, PxliResiz
 PxlStatus pxliResizeLinearInit_64f(PxliSize srcSize, PxliSize dstSize, PxliResizeSpec* pSpec);
 PxlStatus pxliResizeLinearInit_L(PxliSizeL srcSize, PxliSizeL dstSize, PxlDataType dataType, PxliResizeSpec* pSpec);
 
+/* Inits with tap tables: cubic with its parameters B and C (source sides of at least 4), and
+ * Lanczos with 2 or 3 lobes (source sides of at least twice the lobes). Both need the Init
+ * buffer that GetSize gives the size of. */
+PxlStatus pxliResizeCubicInit_8u(PxliSize srcSize, PxliSize dstSize, Pxl32f valueB, Pxl32f valueC, PxliResizeSpec* pSpec, Pxl8u* pInitBuf);
+PxlStatus pxliResizeCubicInit_16u(PxliSize srcSize, PxliSize dstSize, Pxl32f valueB, Pxl32f valueC, PxliResizeSpec* pSpec, Pxl8u* pInitBuf);
+PxlStatus pxliResizeCubicInit_16s(PxliSize srcSize, PxliSize dstSize, Pxl32f valueB, Pxl32f valueC, PxliResizeSpec* pSpec, Pxl8u* pInitBuf);
+PxlStatus pxliResizeCubicInit_32f(PxliSize srcSize, PxliSize dstSize, Pxl32f valueB, Pxl32f valueC, PxliResizeSpec* pSpec, Pxl8u* pInitBuf);
+PxlStatus pxliResizeCubicInit_L(PxliSizeL srcSize, PxliSizeL dstSize, PxlDataType dataType, Pxl32f valueB, Pxl32f valueC, PxliResizeSpec* pSpec, Pxl8u* pInitBuf);
+PxlStatus pxliResizeLanczosInit_8u(PxliSize srcSize, PxliSize dstSize, Pxl32u numLobes, PxliResizeSpec* pSpec, Pxl8u* pInitBuf);
+PxlStatus pxliResizeLanczosInit_16u(PxliSize srcSize, PxliSize dstSize, Pxl32u numLobes, PxliResizeSpec* pSpec, Pxl8u* pInitBuf);
+PxlStatus pxliResizeLanczosInit_16s(PxliSize srcSize, PxliSize dstSize, Pxl32u numLobes, PxliResizeSpec* pSpec, Pxl8u* pInitBuf);
+PxlStatus pxliResizeLanczosInit_32f(PxliSize srcSize, PxliSize dstSize, Pxl32u numLobes, PxliResizeSpec* pSpec, Pxl8u* pInitBuf);
+PxlStatus pxliResizeLanczosInit_L(PxliSizeL srcSize, PxliSizeL dstSize, PxlDataType dataType, Pxl32u numLobes, PxliResizeSpec* pSpec, Pxl8u* pInitBuf);
+
 /* What a record needs: border widths, the work buffer of a tile, the source of a tile. */
 PxlStatus pxliResizeGetBorderSize_8u(const PxliResizeSpec* pSpec, PxliBorderWidths* pBorderSize);
 PxlStatus pxliResizeGetBorderSize_16u(const PxliResizeSpec* pSpec, PxliBorderWidths* pBorderSize);
@@ -138,6 +152,56 @@ PxlStatus pxliResizeLinear_64f_C3R(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst
 PxlStatus pxliResizeLinear_64f_C3R_L(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl64f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
 PxlStatus pxliResizeLinear_64f_C4R(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl64f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
 PxlStatus pxliResizeLinear_64f_C4R_L(const Pxl64f* pSrc, int srcStep, Pxl64f* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl64f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+
+/* Cubic and Lanczos runs: as the linear ones, with the record of their own Init. */
+PxlStatus pxliResizeCubic_8u_C1R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_8u_C1R_L(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_8u_C3R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_8u_C3R_L(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_8u_C4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_8u_C4R_L(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16u_C1R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16u_C1R_L(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16u_C3R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16u_C3R_L(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16u_C4R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16u_C4R_L(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16s_C1R_L(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16s_C3R_L(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16s_C4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_16s_C4R_L(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_32f_C1R_L(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_32f_C3R_L(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeCubic_32f_C4R_L(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_8u_C1R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_8u_C1R_L(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_8u_C3R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_8u_C3R_L(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_8u_C4R(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_8u_C4R_L(const Pxl8u* pSrc, int srcStep, Pxl8u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl8u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16u_C1R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16u_C1R_L(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16u_C3R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16u_C3R_L(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16u_C4R(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16u_C4R_L(const Pxl16u* pSrc, int srcStep, Pxl16u* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16u* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16s_C1R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16s_C1R_L(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16s_C3R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16s_C3R_L(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16s_C4R(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_16s_C4R_L(const Pxl16s* pSrc, int srcStep, Pxl16s* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl16s* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_32f_C1R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_32f_C1R_L(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_32f_C3R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_32f_C3R_L(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_32f_C4R(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
+PxlStatus pxliResizeLanczos_32f_C4R_L(const Pxl32f* pSrc, int srcStep, Pxl32f* pDst, int dstStep, PxliPointL dstOffset, PxliSizeL dstSize, PxliBorderMode border, const Pxl32f* pBorderValue, const PxliResizeSpec* pSpec, Pxl8u* pBuffer);
 
 #ifdef __cplusplus
 }

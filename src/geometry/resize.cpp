@@ -2,6 +2,7 @@
 // nearest and linear methods.
 #include "geometry/geometry.hpp"
 #include "geometry/resize.hpp"
+#include "geometry/lanczos_tables.hpp"
 
 #include "frame/bind.hpp"
 
@@ -131,34 +132,101 @@ void nearestAxis(ResizeAxis& a, int32_t* index)
     for (int i = 0; i < a.dstLen; ++i) index[i] = static_cast<int32_t>((i + 0.5) * r - 1e-10);
 }
 
-// Linear: the position (i + 0.5) ratio - 0.5 as its floor and fraction; lead and trail positions
-// are those with a tap before the first source sample or past the last.
-template <class F> void linearAxis(ResizeAxis& a, int32_t* index, F* fraction)
+// Positions (i + 0.5) ratio - 0.5 as their floor and fraction; lead and trail positions are those
+// whose taps, lobes on either side, reach before the first source sample or past the last.
+template <class F> void positionAxis(ResizeAxis& a, int lobes, int32_t* index, F* fraction)
 {
     const double ratio = ratioOf(a);
     for (int i = 0; i < a.dstLen; ++i) {
         const double pos = (i + 0.5) * ratio - 0.5, f = std::floor(pos);
         index[i] = static_cast<int32_t>(f);
         fraction[i] = static_cast<F>(pos - f);
-        a.leadCount += pos < 0 ? 1 : 0;
-        a.trailCount += pos >= a.srcLen - 1 ? 1 : 0;
+        a.leadCount += pos < lobes - 1 ? 1 : 0;
+        a.trailCount += pos >= a.srcLen - lobes ? 1 : 0;
     }
 }
 
-PxlStatus init(PxliSize src, PxliSize dst, int interpolation, bool wide, uint32_t identity, PxliResizeSpec* pSpec)
+// The parameters of the methods with tap tables: the cubic's B and C, the Lanczos lobe count.
+struct TapMethod {
+    float b = 0, c = 0;
+    int lobes = 2;
+};
+
+// The four cubic taps of a fraction f, weighing the source pixels at distances -1 - f, -f, 1 - f
+// and 2 - f. Three common pairs have their polynomials written out.
+void cubicTaps(float f, float b, float c, float* taps)
+{
+    const float args[4] = {-1.0f - f, -f, 1.0f - f, 2.0f - f};
+    for (int k = 0; k < 4; ++k) {
+        const float t = std::fabs(args[k]), t2 = t * t;
+        float v = 0;
+        if (b == 0.0f && c == 0.5f) {
+            if (t < 1) v = (1.5f * t - 2.5f) * t2 + 1.0f;
+            else if (t < 2) v = ((-0.5f * t + 2.5f) * t - 4.0f) * t + 2.0f;
+        } else if (b == 1.0f && c == 0.0f) {
+            if (t < 1) v = (0.5f * t2 - t) * t + 0.6666667f;
+            else if (t < 2) v = (-0.16666667f * t2 + t) * t + ((1.3333334f - t) - t);
+        } else if (b == 0.5f && c == 0.3f) {
+            if (t < 1) v = (0.95f * t - 1.7f) * t2 + 0.8333333f;
+            else if (t < 2) v = ((-0.38333333f * t + 2.0f) * t - 3.4f) * t + 1.8666667f;
+        } else if (t < 1) {
+            v = (1.0f - b * 0.33333334f) + (((2.0f - 1.5f * b) - c) * t + ((2.0f * b + c) - 3.0f)) * t2;
+        } else if (t < 2) {
+            v = (4.0f * c + 1.3333334f * b) + (-(8.0f * c + 2.0f * b) + ((5.0f * c + b) + (-0.16666667f * b - c) * t) * t) * t;
+        }
+        taps[k] = v;
+    }
+}
+
+// The 2L Lanczos taps of a fraction f, at distances (1 - L) - f + k, looked up in the kernel's
+// table with linear interpolation and divided by their sum.
+void lanczosTaps(float f, int lobes, float* taps)
+{
+    const float* table = lobes == 2 ? kLanczos2 : kLanczos3;
+    const float steps = lobes == 2 ? 200.0f : 100.0f, reach = static_cast<float>(lobes);
+    float sum = 0;
+    for (int k = 0; k < 2 * lobes; ++k) {
+        const float a = (static_cast<float>(1 - lobes) - f) + static_cast<float>(k);
+        float v = 0;
+        if (a > -reach && a < reach) {
+            const float u = std::fabs(a) * steps;
+            const int n = static_cast<int>(u);
+            v = (table[n + 1] - table[n]) * (u - static_cast<float>(n)) + table[n];
+        }
+        taps[k] = v;
+        sum += v;
+    }
+    for (int k = 0; k < 2 * lobes; ++k) taps[k] /= sum;
+}
+
+void tapAxis(const ResizeAxis& a, int interpolation, const TapMethod& m, const float* fraction, float* taps)
+{
+    const int n = interpolation == pxlInterpCubic ? 4 : 2 * m.lobes;
+    for (int i = 0; i < a.dstLen; ++i) {
+        if (interpolation == pxlInterpCubic) cubicTaps(fraction[i], m.b, m.c, taps + n * i);
+        else lanczosTaps(fraction[i], m.lobes, taps + n * i);
+    }
+}
+
+bool badLobes(int lobes) { return lobes != 2 && lobes != 3; }
+bool sourceBelowTaps(PxliSize src, int lobes) { return src.width < 2 * lobes || src.height < 2 * lobes; }
+
+PxlStatus init(PxliSize src, PxliSize dst, int interpolation, bool wide, uint32_t identity, PxliResizeSpec* pSpec, const TapMethod& m,
+               Pxl8u* pInitBuf)
 {
     ResizeRecord* r = alignedRecord<ResizeRecord>(pSpec);
     std::memset(r, 0, sizeof(ResizeRecord));
     r->identity = identity;
     r->workType = wide ? pxlDt64f : pxlDt32f;
     r->interpolation = interpolation;
-    const int lobes = interpolation == pxlInterpLinear ? 1 : 0;
+    const bool tapped = interpolation == pxlInterpCubic || interpolation == pxlInterpLanczos;
+    const int lobes = interpolation == pxlInterpLinear ? 1 : interpolation == pxlInterpCubic ? 2 : interpolation == pxlInterpLanczos ? m.lobes : 0;
     r->lobesX = r->lobesY = lobes;
     r->borderLeft = r->borderTop = r->borderRight = r->borderBottom = lobes;
     setLengths(r->axisY, src.height, dst.height);
     setLengths(r->axisX, src.width, dst.width);
     // Tables behind the record, each a multiple of 32 entries long: rows' then columns' indices,
-    // then rows' and columns' fractions (64-byte aligned).
+    // then rows' and columns' fractions (64-byte aligned) or taps.
     const uint32_t a = static_cast<uint32_t>(align32(dst.width)), b = static_cast<uint32_t>(align32(dst.height));
     const uint32_t base = sizeof(ResizeRecord), fractionBytes = wide ? 8 : 4;
     r->axisY.indexTable = base;
@@ -171,24 +239,45 @@ PxlStatus init(PxliSize src, PxliSize dst, int interpolation, bool wide, uint32_
         nearestAxis(r->axisX, columnIndex);
         return pxlStatusOk;
     }
-    const uint32_t rows = base + 4 * (a + b), columns = rows + fractionBytes * b;
+    const uint32_t rows = base + 4 * (a + b);
+    if (tapped) {
+        // Fractions in the Init buffer, then taps from them.
+        float* rowFraction = alignedRecord<float>(pInitBuf);
+        float* columnFraction = rowFraction + b;
+        positionAxis(r->axisY, lobes, rowIndex, rowFraction);
+        positionAxis(r->axisX, lobes, columnIndex, columnFraction);
+        if (interpolation == pxlInterpLanczos) {
+            if (badLobes(lobes)) return pxlStatusUnsupportedMode;
+            if (sourceBelowTaps(src, lobes)) return pxlStatusBadSize;
+        }
+        const int n = 2 * lobes;
+        r->axisY.coefTable = rows;
+        r->axisX.coefTable = rows + static_cast<uint32_t>(align32(4 * n * dst.height));
+        tapAxis(r->axisY, interpolation, m, rowFraction, reinterpret_cast<float*>(bytes + r->axisY.coefTable));
+        tapAxis(r->axisX, interpolation, m, columnFraction, reinterpret_cast<float*>(bytes + r->axisX.coefTable));
+        return pxlStatusOk;
+    }
+    const uint32_t columns = rows + fractionBytes * b;
     (wide ? r->axisY.coefTable64 : r->axisY.coefTable) = rows;
     (wide ? r->axisX.coefTable64 : r->axisX.coefTable) = columns;
     if (wide) {
-        linearAxis(r->axisY, rowIndex, reinterpret_cast<double*>(bytes + rows));
-        linearAxis(r->axisX, columnIndex, reinterpret_cast<double*>(bytes + columns));
+        positionAxis(r->axisY, 1, rowIndex, reinterpret_cast<double*>(bytes + rows));
+        positionAxis(r->axisX, 1, columnIndex, reinterpret_cast<double*>(bytes + columns));
     } else {
-        linearAxis(r->axisY, rowIndex, reinterpret_cast<float*>(bytes + rows));
-        linearAxis(r->axisX, columnIndex, reinterpret_cast<float*>(bytes + columns));
+        positionAxis(r->axisY, 1, rowIndex, reinterpret_cast<float*>(bytes + rows));
+        positionAxis(r->axisX, 1, columnIndex, reinterpret_cast<float*>(bytes + columns));
     }
     return pxlStatusOk;
 }
 
-// The Init of a method: the checks, in order: the record pointer; a zero side; a negative side;
-// (with a type code: the type, sides above 2^29 - 1); the method's smallest source.
-PxlStatus checkedInit(PxliSize src, PxliSize dst, int interpolation, bool wide, bool typed, PxlDataType dataType, PxliResizeSpec* pSpec)
+// The Init of a method: the checks, in order: the record pointer (and the Init buffer of the
+// methods with taps); a zero side; a negative side; (with a type code: the type, sides above
+// 2^29 - 1, and for Lanczos the lobes and the source against them); the method's smallest source.
+PxlStatus checkedInit(PxliSize src, PxliSize dst, int interpolation, bool wide, bool typed, PxlDataType dataType, PxliResizeSpec* pSpec,
+                      const TapMethod& m = {}, Pxl8u* pInitBuf = nullptr)
 {
-    if (!pSpec) return pxlStatusNullPointer;
+    const bool tapped = interpolation == pxlInterpCubic || interpolation == pxlInterpLanczos;
+    if (!pSpec || (tapped && !pInitBuf)) return pxlStatusNullPointer;
     if (anyZero(src, dst)) return pxlStatusWarnZeroSize;
     if (anyNegative(src, dst)) return pxlStatusBadSize;
     if (typed) {
@@ -196,7 +285,11 @@ PxlStatus checkedInit(PxliSize src, PxliSize dst, int interpolation, bool wide, 
         wide = dataType == pxlDt64f;
     }
     if (sourceTooSmall(interpolation, src, dst)) return pxlStatusBadSize;
-    return init(src, dst, interpolation, wide, typed ? kResizeIdentityL : kResizeIdentity, pSpec);
+    if (typed && interpolation == pxlInterpLanczos) {
+        if (badLobes(m.lobes)) return pxlStatusUnsupportedMode;
+        if (sourceBelowTaps(src, m.lobes)) return pxlStatusBadSize;
+    }
+    return init(src, dst, interpolation, wide, typed ? kResizeIdentityL : kResizeIdentity, pSpec, m, pInitBuf);
 }
 
 // The record of a query: its identity, and for the 64f forms double tables.
@@ -247,6 +340,26 @@ template <int Interpolation, bool Wide> PxlStatus resizeInit(PxliSize srcSize, P
 template <int Interpolation> PxlStatus resizeInitL(PxliSize srcSize, PxliSize dstSize, PxlDataType dataType, PxliResizeSpec* pSpec)
 {
     return checkedInit(srcSize, dstSize, Interpolation, false, true, dataType, pSpec);
+}
+PxlStatus resizeCubicInit(PxliSize srcSize, PxliSize dstSize, Pxl32f valueB, Pxl32f valueC, PxliResizeSpec* pSpec, Pxl8u* pInitBuf)
+{
+    return checkedInit(srcSize, dstSize, pxlInterpCubic, false, false, 0, pSpec, TapMethod{valueB, valueC, 2}, pInitBuf);
+}
+PxlStatus resizeCubicInitL(PxliSize srcSize, PxliSize dstSize, PxlDataType dataType, Pxl32f valueB, Pxl32f valueC, PxliResizeSpec* pSpec,
+                           Pxl8u* pInitBuf)
+{
+    return checkedInit(srcSize, dstSize, pxlInterpCubic, false, true, dataType, pSpec, TapMethod{valueB, valueC, 2}, pInitBuf);
+}
+// A lobe count too large for the record's word is as unsupported as 4.
+PxlStatus resizeLanczosInit(PxliSize srcSize, PxliSize dstSize, Pxl32u numLobes, PxliResizeSpec* pSpec, Pxl8u* pInitBuf)
+{
+    const TapMethod m{0, 0, static_cast<int>(std::min<Pxl32u>(numLobes, 0x7FFFFFFF))};
+    return checkedInit(srcSize, dstSize, pxlInterpLanczos, false, false, 0, pSpec, m, pInitBuf);
+}
+PxlStatus resizeLanczosInitL(PxliSize srcSize, PxliSize dstSize, PxlDataType dataType, Pxl32u numLobes, PxliResizeSpec* pSpec, Pxl8u* pInitBuf)
+{
+    const TapMethod m{0, 0, static_cast<int>(std::min<Pxl32u>(numLobes, 0x7FFFFFFF))};
+    return checkedInit(srcSize, dstSize, pxlInterpLanczos, false, true, dataType, pSpec, m, pInitBuf);
 }
 
 template <bool Wide, bool L> PxlStatus resizeGetBorderSize(const PxliResizeSpec* pSpec, PxliBorderWidths* pBorderSize)
@@ -356,6 +469,32 @@ Tile tileOf(const ResizeRecord& r, PxliPoint o, PxliSize size, int channels, Pxl
     return t;
 }
 
+// Strips where taps reach past the image: on each side that the tile shares with the image and
+// whose memory flag is clear, or that lies inside the image (its pixels beyond the image's edge
+// are then limited as in one call over the whole image).
+Strips stripsOf(const ResizeRecord& r, const Tile& t, PxliPoint dstOffset, PxliBorderMode border)
+{
+    const ResizeAxis &ax = r.axisX, &ay = r.axisY;
+    const int beyondRight = ax.dstLen - t.w - dstOffset.x, beyondBottom = ay.dstLen - t.h - dstOffset.y;
+    auto clamps = [&](int flag, bool touches) { return !(border & flag) || !touches; };
+    Strips s{};
+    if (clamps(pxlBorderMemTop, dstOffset.y == 0) && dstOffset.y < ay.leadCount) s.top = std::min(ay.leadCount - dstOffset.y, t.h);
+    if (clamps(pxlBorderMemLeft, dstOffset.x == 0) && dstOffset.x < ax.leadCount) s.left = std::min(ax.leadCount - dstOffset.x, t.w);
+    if (clamps(pxlBorderMemBottom, beyondBottom == 0) && beyondBottom < ay.trailCount) s.bottom = std::min(ay.trailCount - beyondBottom, t.h);
+    if (clamps(pxlBorderMemRight, beyondRight == 0) && beyondRight < ax.trailCount) s.right = std::min(ax.trailCount - beyondRight, t.w);
+    s.xLo = -t.origin.x;
+    s.xHi = ax.srcLen - t.origin.x - 1;
+    s.yLo = -t.origin.y;
+    s.yHi = ay.srcLen - t.origin.y - 1;
+    return s;
+}
+
+// The border word of the methods with taps: replicate with any memory flags, or all in memory.
+bool badBorder(PxliBorderMode border)
+{
+    return static_cast<uint32_t>(border) > 255 || (border != pxlBorderMemAll && (border & 15) != pxlBorderReplicate);
+}
+
 PxlStatus overrun(const ResizeRecord& r, PxliSize size)
 {
     return size.width > r.axisX.dstLen || size.height > r.axisY.dstLen ? pxlStatusWarnNoOperation : pxlStatusOk;
@@ -384,7 +523,7 @@ PxlStatus resizeLinear(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliPoi
 {
     // Checks, in order: the border word (replicate with any memory flags, or 0xF0); pointers; a
     // zero side; the record; a negative side; steps; the offset; the method.
-    if (static_cast<uint32_t>(border) > 255 || (border != pxlBorderMemAll && (border & 15) != pxlBorderReplicate)) return pxlStatusBadBorder;
+    if (badBorder(border)) return pxlStatusBadBorder;
     const ResizeRecord* r = nullptr;
     if (const PxlStatus s = checkRun<T, L>(pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, pSpec, pBuffer, pxlInterpLinear, r);
         s != pxlStatusOk)
@@ -397,21 +536,7 @@ PxlStatus resizeLinear(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliPoi
     F* ringA = reinterpret_cast<F*>(t.rest);
     F* ringB = reinterpret_cast<F*>(t.rest + ringBytes);
 
-    // Strips where taps reach past the image: on each side that the tile shares with the image
-    // and whose memory flag is clear, or that lies inside the image (its pixels beyond the
-    // image's edge are then clamped as in one call over the whole image).
-    const ResizeAxis &ax = r->axisX, &ay = r->axisY;
-    const int beyondRight = ax.dstLen - t.w - dstOffset.x, beyondBottom = ay.dstLen - t.h - dstOffset.y;
-    auto clamps = [&](int flag, bool touches) { return !(border & flag) || !touches; };
-    Strips s{};
-    if (clamps(pxlBorderMemTop, dstOffset.y == 0) && dstOffset.y < ay.leadCount) s.top = std::min(ay.leadCount - dstOffset.y, t.h);
-    if (clamps(pxlBorderMemLeft, dstOffset.x == 0) && dstOffset.x < ax.leadCount) s.left = std::min(ax.leadCount - dstOffset.x, t.w);
-    if (clamps(pxlBorderMemBottom, beyondBottom == 0) && beyondBottom < ay.trailCount) s.bottom = std::min(ay.trailCount - beyondBottom, t.h);
-    if (clamps(pxlBorderMemRight, beyondRight == 0) && beyondRight < ax.trailCount) s.right = std::min(ax.trailCount - beyondRight, t.w);
-    s.xLo = -t.origin.x;
-    s.xHi = ax.srcLen - t.origin.x - 1;
-    s.yLo = -t.origin.y;
-    s.yHi = ay.srcLen - t.origin.y - 1;
+    const Strips s = stripsOf(*r, t, dstOffset, border);
     if (s.top || s.bottom || s.left || s.right) linearBorder<T, C>(pSrc, srcStep, pDst, dstStep, t.w, t.h, t.y, t.x, fy, fx, s);
 
     const int w = t.w - s.left - s.right, h = t.h - s.top - s.bottom;
@@ -426,6 +551,43 @@ PxlStatus resizeLinear(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliPoi
         }
         linearInterior<T, C>(pSrc, srcStep, to, dstStep, w, h, y, x, fy + s.top, fx + s.left, ringA, ringB);
     }
+    return overrun(*r, dstSize);
+}
+
+namespace {
+
+template <class T, int C, int N>
+void tappedTile(const T* pSrc, int srcStep, T* pDst, int dstStep, const ResizeRecord& r, const Tile& t, PxliPoint dstOffset, PxliBorderMode border)
+{
+    const float* cx = tableOf<float>(r, r.axisX.coefTable) + N * dstOffset.x;
+    const float* cy = tableOf<float>(r, r.axisY.coefTable) + N * dstOffset.y;
+    const Strips s = stripsOf(r, t, dstOffset, border);
+    if (s.top || s.bottom || s.left || s.right) tapsBorder<T, C, N>(pSrc, srcStep, pDst, dstStep, t.w, t.h, t.y, t.x, cy, cx, s);
+    const int w = t.w - s.left - s.right, h = t.h - s.top - s.bottom;
+    if (w <= 0 || h <= 0) return;
+    float* ring[N];
+    const int64_t ringBytes = align32(static_cast<int64_t>(sizeof(float)) * C * t.w);
+    for (int k = 0; k < N; ++k) ring[k] = reinterpret_cast<float*>(t.rest + k * ringBytes);
+    tapsInterior<T, C, N>(pSrc, srcStep, rowAt(pDst, dstStep, s.top) + s.left * C, dstStep, w, h, t.y + s.top, t.x + s.left, cy + N * s.top,
+                          cx + N * s.left, ring);
+}
+
+}  // namespace
+
+template <class T, int C, bool L, int Interpolation>
+PxlStatus resizeTapped(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliPoint dstOffset, PxliSize dstSize, PxliBorderMode border,
+                       const T* /* pBorderValue: replicated borders only */, const PxliResizeSpec* pSpec, Pxl8u* pBuffer)
+{
+    // Checks, in order: the border word (replicate with any memory flags, or 0xF0); pointers; a
+    // zero side; the record; a negative side; steps; the offset; the method; (Lanczos) the lobes.
+    if (badBorder(border)) return pxlStatusBadBorder;
+    const ResizeRecord* r = nullptr;
+    if (const PxlStatus s = checkRun<T, L>(pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, pSpec, pBuffer, Interpolation, r); s != pxlStatusOk)
+        return s;
+    if (r->lobesX != 2 && r->lobesX != 3) return pxlStatusUnsupportedMode;
+    const Tile t = tileOf(*r, dstOffset, dstSize, C, pBuffer);
+    if (r->lobesX == 2) tappedTile<T, C, 4>(pSrc, srcStep, pDst, dstStep, *r, t, dstOffset, border);
+    else tappedTile<T, C, 6>(pSrc, srcStep, pDst, dstStep, *r, t, dstOffset, border);
     return overrun(*r, dstSize);
 }
 

@@ -60,8 +60,12 @@ template <class T, class F> inline T storeSample(F v)
     if constexpr (std::is_floating_point_v<T>) {
         return static_cast<T>(v);
     } else {
-        const int32_t i = static_cast<int32_t>((v + 0x1.8p23f) - 0x1.8p23f);
-        return static_cast<T>(std::clamp<int32_t>(i, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+        // Limited while still floating, where a NaN (from NaN taps) becomes the least sample.
+        constexpr F lo = static_cast<F>(std::numeric_limits<T>::min()), hi = static_cast<F>(std::numeric_limits<T>::max());
+        F r = (v + F(0x1.8p23f)) - F(0x1.8p23f);
+        r = r > lo ? r : lo;
+        r = r < hi ? r : hi;
+        return static_cast<T>(static_cast<int32_t>(r));
     }
 }
 
@@ -253,6 +257,106 @@ void linearBorder(const T* src, int srcStep, T* dst, int dstStep, int w, int h, 
         clampedColumns(i, w - s.right, w, s.xHi);
     }
     for (int i = h - s.bottom; i < h; ++i) clampedRow(i, s.yHi);
+}
+
+// Kernels of N taps (N / 2 lobes): tap k of a position weighs the pixel k - (N / 2 - 1) from its
+// index. A row sums its products from the last tap down to the first, a column from the first
+// source row to the last; both the interior and the border kernels go through these two, so that
+// a clamped tap gives exactly what a replicated border gives.
+template <int N, class At> inline float rowSum(const float* c, At at)
+{
+    float acc = c[N - 1] * at(N - 1);
+    for (int k = N - 2; k >= 0; --k) acc = acc + c[k] * at(k);
+    return acc;
+}
+template <int N, class At> inline float columnSum(const float* c, At at)
+{
+    float acc = c[0] * at(0);
+    for (int k = 1; k < N; ++k) acc = acc + c[k] * at(k);
+    return acc;
+}
+
+// One source row through the row taps, into floats.
+template <class T, int C, int N> void tapRow(const T* __restrict row, const int32_t* __restrict x, const float* __restrict cx, int w, float* __restrict out)
+{
+    constexpr int kFirst = 1 - N / 2;
+    for (int j = 0; j < w; ++j) {
+        const T* p = row + x[j] + kFirst * C;
+        for (int c = 0; c < C; ++c) out[j * C + c] = rowSum<N>(cx + N * j, [&](int k) { return static_cast<float>(p[k * C + c]); });
+    }
+}
+
+// The interior of a tile: a ring of N interpolated rows, ring[k] holding source row
+// y - (N / 2 - 1) + k for the current y; each source row goes through the row pass once.
+template <class T, int C, int N>
+void tapsInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h, const int32_t* y, const int32_t* x, const float* cy,
+                  const float* cx, float* const* ringRows)
+{
+    constexpr int kFirst = 1 - N / 2;
+    float* ring[N];
+    std::copy(ringRows, ringRows + N, ring);
+    auto fill = [&](int row, int from) {
+        for (int k = from; k < N; ++k) tapRow<T, C, N>(rowAt(src, srcStep, row + kFirst + k), x, cx, w, ring[k]);
+    };
+    int cur = y[0];
+    fill(cur, 0);
+    const int n = w * C;
+    for (int i = 0; i < h; ++i) {
+        if (y[i] > cur) {
+            const int d = y[i] - cur;
+            cur = y[i];
+            if (d >= N) {
+                fill(cur, 0);
+            } else {
+                std::rotate(ring, ring + d, ring + N);
+                fill(cur, N - d);
+            }
+        }
+        const float* c = cy + N * i;
+        T* out = rowAt(dst, dstStep, i);
+        for (int s = 0; s < n; ++s) out[s] = storeSample<T>(columnSum<N>(c, [&](int k) { return ring[k][s]; }));
+    }
+}
+
+// The strips of a tile whose taps reach past the image, for N-tap kernels: each pixel whole, its
+// column taps limited to the image on the sides with a strip, and in the top and bottom strips
+// its row taps too.
+template <class T, int C, int N>
+void tapsBorder(const T* src, int srcStep, T* dst, int dstStep, int w, int h, const int32_t* y, const int32_t* x, const float* cy,
+                const float* cx, const Strips& s)
+{
+    constexpr int kFirst = 1 - N / 2;
+    auto pixel = [&](int i, int j, bool rowsLimited) {
+        int columns[N];
+        for (int k = 0; k < N; ++k) {
+            int px = x[j] / C + kFirst + k;
+            if (s.left && px < s.xLo) px = s.xLo;
+            if (s.right && px > s.xHi) px = s.xHi;
+            columns[k] = px * C;
+        }
+        const T* rows[N];
+        for (int k = 0; k < N; ++k) {
+            int r = y[i] + kFirst + k;
+            if (rowsLimited && s.top && r < s.yLo) r = s.yLo;
+            if (rowsLimited && s.bottom && r > s.yHi) r = s.yHi;
+            rows[k] = rowAt(src, srcStep, r);
+        }
+        T* out = rowAt(dst, dstStep, i) + j * C;
+        for (int c = 0; c < C; ++c) {
+            float sums[N];
+            for (int k = 0; k < N; ++k)
+                sums[k] = rowSum<N>(cx + N * j, [&](int q) { return static_cast<float>(rows[k][columns[q] + c]); });
+            out[c] = storeSample<T>(columnSum<N>(cy + N * i, [&](int k) { return sums[k]; }));
+        }
+    };
+    for (int i = 0; i < s.top; ++i)
+        for (int j = 0; j < w; ++j) pixel(i, j, true);
+    for (int i = s.top; i < h - s.bottom; ++i) {
+        for (int j = 0; j < s.left; ++j) pixel(i, j, false);
+        for (int j = w - s.right; j < w; ++j) pixel(i, j, false);
+    }
+    for (int i = h - s.bottom; i < h; ++i)
+        for (int j = 0; j < w; ++j) pixel(i, j, true);
 }
 
 // Nearest: each destination pixel a copy of the source pixel at (x[j], y[i]), x in samples. A row
