@@ -1,6 +1,6 @@
-// Resize of a frame (1920x1080 unless --size says otherwise) to half and to twice its size, 8u C3,
-// linear and nearest, one call on the whole image, against OpenCV's resize with INTER_LINEAR and
-// INTER_NEAREST, and a memcpy of the bytes read and written.
+// Resize of a frame (1920x1080 unless --size says otherwise), one call on the whole image: 8u C3 to
+// half and to twice its size, linear and nearest, against OpenCV's resize with INTER_LINEAR and
+// INTER_NEAREST and a memcpy of the bytes read and written; 8u C1 cubic and Lanczos to two thirds.
 #include "bench.hpp"
 
 #include <vector>
@@ -56,8 +56,51 @@ void resize(int interpolation, int num, int den)
 #endif
 }
 
+// Cubic (B = 0, C = 0.5) and 3-lobe Lanczos, 8u C1, to two thirds of the size, against
+// INTER_CUBIC and INTER_LANCZOS4.
+void resizeTapped(bool lanczos)
+{
+    const int dw = W * 2 / 3, dh = H * 2 / 3;
+    const std::string name = std::string(lanczos ? "ResizeLanczos3" : "ResizeCubic") + " 8u C1 to " + std::to_string(dw) + "x" +
+                             std::to_string(dh) + pxlbench::sizeTag();
+    pxlbench::add(name, "pxl", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), d(dw, dh, 1);
+        const PxliSize src{W, H}, dst{dw, dh};
+        int specSize = 0, initSize = 0, bufferSize = 0;
+        pxliResizeGetSize_8u(src, dst, lanczos ? pxlInterpLanczos : pxlInterpCubic, 0, &specSize, &initSize);
+        std::vector<unsigned char> spec(static_cast<std::size_t>(specSize)), init(static_cast<std::size_t>(initSize));
+        auto* record = reinterpret_cast<PxliResizeSpec*>(spec.data());
+        if (lanczos) pxliResizeLanczosInit_8u(src, dst, 3, record, init.data());
+        else pxliResizeCubicInit_8u(src, dst, 0.0f, 0.5f, record, init.data());
+        pxliResizeGetBufferSize_8u(record, dst, 1, &bufferSize);
+        std::vector<Pxl8u> buffer(static_cast<std::size_t>(bufferSize));
+        for (auto _ : s) {
+            if (lanczos)
+                benchmark::DoNotOptimize(pxliResizeLanczos_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {0, 0}, dst, pxlBorderReplicate,
+                                                                  nullptr, record, buffer.data()));
+            else
+                benchmark::DoNotOptimize(pxliResizeCubic_8u_C1R(a.as<Pxl8u>(), a.step, d.as<Pxl8u>(), d.step, {0, 0}, dst, pxlBorderReplicate,
+                                                                nullptr, record, buffer.data()));
+            benchmark::ClobberMemory();
+        }
+    });
+#ifdef PXL_BENCH_OPENCV
+    pxlbench::add(name, "peer", [=](benchmark::State& s) {
+        pxlbench::Image a(W, H, 1), d(dw, dh, 1);
+        cv::Mat ma = a.mat(pxlbench::k8uC1);
+        cv::Mat md(dh, dw, CV_8UC1, d.data, static_cast<std::size_t>(d.step));
+        for (auto _ : s) {
+            cv::resize(ma, md, cv::Size(dw, dh), 0, 0, lanczos ? cv::INTER_LANCZOS4 : cv::INTER_CUBIC);
+            benchmark::ClobberMemory();
+        }
+    });
+#endif
+}
+
 void geometryBenchmarks()
 {
+    resizeTapped(false);
+    resizeTapped(true);
     for (int interpolation : {pxlInterpLinear, pxlInterpNearest}) {
         resize(interpolation, 1, 2);
         resize(interpolation, 2, 1);

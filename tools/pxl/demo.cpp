@@ -3,6 +3,7 @@
 #include "png.hpp"
 
 #include <algorithm>
+#include <cctype>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -485,17 +486,24 @@ void resizeDemo(Context& ctx)
         const PxliSize toSize = to.size();
         int specSize = 0, initSize = 0, bufferSize = 0;
         pxliResizeGetSize_8u(fromSize, toSize, interpolation, 0, &specSize, &initSize);
-        std::vector<unsigned char> spec(static_cast<std::size_t>(specSize));
+        std::vector<unsigned char> spec(static_cast<std::size_t>(specSize)), init(static_cast<std::size_t>(initSize));
         auto* record = reinterpret_cast<PxliResizeSpec*>(spec.data());
         if (interpolation == pxlInterpLinear) pxliResizeLinearInit_8u(fromSize, toSize, record);
+        else if (interpolation == pxlInterpCubic) pxliResizeCubicInit_8u(fromSize, toSize, 0.0f, 0.5f, record, init.data());
+        else if (interpolation == pxlInterpLanczos) pxliResizeLanczosInit_8u(fromSize, toSize, 3, record, init.data());
         else pxliResizeNearestInit_8u(fromSize, toSize, record);
         pxliResizeGetBufferSize_8u(record, toSize, 3, &bufferSize);
         std::vector<Pxl8u> buffer(static_cast<std::size_t>(bufferSize));
         makeSaveTime(ctx, file, to, label, [&] {
+            const PxliPoint at{0, 0};
             if (interpolation == pxlInterpLinear)
-                pxliResizeLinear_8u_C3R(from, src.step, to.data, to.step, {0, 0}, toSize, pxlBorderReplicate, nullptr, record, buffer.data());
+                pxliResizeLinear_8u_C3R(from, src.step, to.data, to.step, at, toSize, pxlBorderReplicate, nullptr, record, buffer.data());
+            else if (interpolation == pxlInterpCubic)
+                pxliResizeCubic_8u_C3R(from, src.step, to.data, to.step, at, toSize, pxlBorderReplicate, nullptr, record, buffer.data());
+            else if (interpolation == pxlInterpLanczos)
+                pxliResizeLanczos_8u_C3R(from, src.step, to.data, to.step, at, toSize, pxlBorderReplicate, nullptr, record, buffer.data());
             else
-                pxliResizeNearest_8u_C3R(from, src.step, to.data, to.step, {0, 0}, toSize, record, buffer.data());
+                pxliResizeNearest_8u_C3R(from, src.step, to.data, to.step, at, toSize, record, buffer.data());
         });
     };
     Image half(src.width / 2, src.height / 2, 3);
@@ -505,6 +513,17 @@ void resizeDemo(Context& ctx)
     Image linear(crop.width * 4, crop.height * 4, 3), nearest(crop.width * 4, crop.height * 4, 3);
     resize(middle, crop, linear, pxlInterpLinear, "resize_x4_linear", "pxliResizeLinear_8u_C3R (x4)");
     resize(middle, crop, nearest, pxlInterpNearest, "resize_x4_nearest", "pxliResizeNearest_8u_C3R (x4)");
+    // The same reduction to a third by each method, to compare side by side.
+    const struct {
+        int interpolation;
+        const char* name;
+    } methods[] = {{pxlInterpNearest, "Nearest"}, {pxlInterpLinear, "Linear"}, {pxlInterpCubic, "Cubic"}, {pxlInterpLanczos, "Lanczos"}};
+    for (const auto& m : methods) {
+        Image third(src.width / 3, src.height / 3, 3);
+        std::string file = std::string("resize_third_") + m.name;
+        for (char& ch : file) ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
+        resize(src.data, src.size(), third, m.interpolation, file, std::string("pxliResize") + m.name + "_8u_C3R (to a third)");
+    }
 }
 
 }  // namespace
