@@ -15,6 +15,7 @@
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
+#include <xmmintrin.h>
 #endif
 
 namespace pxl::geom {
@@ -146,7 +147,7 @@ void linearInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h
         int j1 = std::min(j0 + kBand, w);
         const int first = x[j0];
         if constexpr (kSpan) j1 = static_cast<int>(std::upper_bound(x + j0, x + j1, first + kSpanLen - 2 * C) - x);
-        const bool spanned = kSpan && j1 - j0 >= kFewest;
+        const bool spanned = kSpan && j1 - j0 >= std::min(kFewest, w - j0);
         if (!spanned) j1 = std::min(j0 + kBand, w);
         const int n = j1 - j0, last = x[j1 - 1] + 2 * C;  // the band's source samples [first, last)
         const int base = spanned ? first : 0;
@@ -276,45 +277,118 @@ template <int N, class At> inline float columnSum(const float* c, At at)
     return acc;
 }
 
-// One source row through the row taps, into floats.
+// One source row through the row taps, into floats: x[j] is the sample of pixel j's first tap.
 template <class T, int C, int N> void tapRow(const T* __restrict row, const int32_t* __restrict x, const float* __restrict cx, int w, float* __restrict out)
 {
-    constexpr int kFirst = 1 - N / 2;
     for (int j = 0; j < w; ++j) {
-        const T* p = row + x[j] + kFirst * C;
+        const T* p = row + x[j];
         for (int c = 0; c < C; ++c) out[j * C + c] = rowSum<N>(cx + N * j, [&](int k) { return static_cast<float>(p[k * C + c]); });
     }
 }
 
+// The same over a span of floats that may be read eight samples past the last tap, a vector at a
+// time, with the operations of rowSum in its order. Three and four channels take one pixel per
+// step, its taps broadcast (a three-channel step writes one sample into the next pixel, which the
+// next step writes again); one channel takes four pixels per step, their samples transposed so
+// that each vector holds one tap of four pixels, with the taps given transposed likewise (tap k
+// of the band's pixel j at cxT[k * stride + j]). Returns the pixels done.
+template <int C, int N>
+int tapRowPadded(const float* __restrict span, const int32_t* __restrict x, const float* __restrict cx, const float* __restrict cxT, int stride,
+                 int w, float* __restrict out)
+{
+#if defined(__SSE2__)
+    int j = 0;
+    if constexpr (C == 1) {
+        for (; j + 4 <= w; j += 4) {
+            __m128 p[8];
+            for (int half = 0; half < (N + 3) / 4; ++half) {
+                __m128 r0 = _mm_loadu_ps(span + x[j] + 4 * half), r1 = _mm_loadu_ps(span + x[j + 1] + 4 * half);
+                __m128 r2 = _mm_loadu_ps(span + x[j + 2] + 4 * half), r3 = _mm_loadu_ps(span + x[j + 3] + 4 * half);
+                _MM_TRANSPOSE4_PS(r0, r1, r2, r3);
+                p[4 * half] = r0, p[4 * half + 1] = r1, p[4 * half + 2] = r2, p[4 * half + 3] = r3;
+            }
+            __m128 acc = _mm_mul_ps(_mm_loadu_ps(cxT + (N - 1) * stride + j), p[N - 1]);
+            for (int k = N - 2; k >= 0; --k) acc = _mm_add_ps(acc, _mm_mul_ps(_mm_loadu_ps(cxT + k * stride + j), p[k]));
+            _mm_storeu_ps(out + j, acc);
+        }
+    } else {
+        const int end = C == 4 ? w : w - 1;
+        for (; j < end; ++j) {
+            const float* q = span + x[j];
+            const float* c = cx + N * j;
+            __m128 acc = _mm_mul_ps(_mm_set1_ps(c[N - 1]), _mm_loadu_ps(q + (N - 1) * C));
+            for (int k = N - 2; k >= 0; --k) acc = _mm_add_ps(acc, _mm_mul_ps(_mm_set1_ps(c[k]), _mm_loadu_ps(q + k * C)));
+            _mm_storeu_ps(out + j * C, acc);
+        }
+    }
+    return j;
+#else
+    (void)span, (void)x, (void)cx, (void)cxT, (void)stride, (void)w, (void)out;
+    return 0;
+#endif
+}
+
+// N interpolated rows weighed by a row's taps, from the first to the last, and stored.
+template <class T, int N> void tapColumn(float* const* ring, const float* taps, int n, T* __restrict out)
+{
+    const float* r[N];
+    float c[N];
+    for (int k = 0; k < N; ++k) r[k] = ring[k], c[k] = taps[k];
+    for (int s = 0; s < n; ++s) out[s] = storeSample<T>(columnSum<N>(c, [&](int k) { return r[k][s]; }));
+}
+
 // The interior of a tile: a ring of N interpolated rows, ring[k] holding source row
-// y - (N / 2 - 1) + k for the current y; each source row goes through the row pass once.
+// y - (N / 2 - 1) + k for the current y; each source row goes through the row pass once per band.
+// As in the linear kernel, a band's source samples are first converted (or copied) into a padded
+// span of floats on the stack, and the band ends where the span would overflow; a reduction by so
+// large a factor that a band would hold only a few pixels reads the samples where they lie.
 template <class T, int C, int N>
 void tapsInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h, const int32_t* y, const int32_t* x, const float* cy,
                   const float* cx, float* const* ringRows)
 {
-    constexpr int kFirst = 1 - N / 2;
+    constexpr int kFirst = 1 - N / 2, kBand = C == 1 ? 1024 : 1536 / C, kSpanLen = 4096, kPad = 8, kFewest = 16;
+    int32_t bandX[kBand];
+    float bandT[C == 1 ? N * kBand : 1];
+    float span[kSpanLen + kPad] = {};
     float* ring[N];
-    std::copy(ringRows, ringRows + N, ring);
-    auto fill = [&](int row, int from) {
-        for (int k = from; k < N; ++k) tapRow<T, C, N>(rowAt(src, srcStep, row + kFirst + k), x, cx, w, ring[k]);
-    };
-    int cur = y[0];
-    fill(cur, 0);
-    const int n = w * C;
-    for (int i = 0; i < h; ++i) {
-        if (y[i] > cur) {
-            const int d = y[i] - cur;
-            cur = y[i];
-            if (d >= N) {
-                fill(cur, 0);
-            } else {
-                std::rotate(ring, ring + d, ring + N);
-                fill(cur, N - d);
+    for (int j0 = 0; j0 < w;) {
+        const int first = x[j0] + kFirst * C;  // the band's source samples [first, last)
+        int j1 = static_cast<int>(std::upper_bound(x + j0, std::min(x + j0 + kBand, x + w), first + kSpanLen - (kFirst + N) * C) - x);
+        const bool spanned = j1 - j0 >= std::min(kFewest, w - j0);
+        if (!spanned) j1 = std::min(j0 + kBand, w);
+        const int n = j1 - j0, last = x[j1 - 1] + (kFirst + N) * C, base = spanned ? first : 0;
+        for (int k = 0; k < n; ++k) bandX[k] = x[j0 + k] + kFirst * C - base;
+        const float* bandC = cx + N * j0;
+        if constexpr (C == 1)
+            for (int j = 0; j < n; ++j)
+                for (int k = 0; k < N; ++k) bandT[k * n + j] = bandC[N * j + k];
+        auto interpolate = [&](int row, float* out) {
+            const T* r = rowAt(src, srcStep, row);
+            if (!spanned) return tapRow<T, C, N>(r, bandX, bandC, n, out);
+            for (int k = 0; k < last - first; ++k) span[k] = static_cast<float>(r[first + k]);
+            const int done = tapRowPadded<C, N>(span, bandX, bandC, bandT, n, n, out);
+            tapRow<float, C, N>(span, bandX + done, bandC + N * done, n - done, out + done * C);
+        };
+        std::copy(ringRows, ringRows + N, ring);
+        auto fill = [&](int row, int from) {
+            for (int k = from; k < N; ++k) interpolate(row + kFirst + k, ring[k]);
+        };
+        int cur = y[0];
+        fill(cur, 0);
+        for (int i = 0; i < h; ++i) {
+            if (y[i] > cur) {
+                const int d = y[i] - cur;
+                cur = y[i];
+                if (d >= N) {
+                    fill(cur, 0);
+                } else {
+                    std::rotate(ring, ring + d, ring + N);
+                    fill(cur, N - d);
+                }
             }
+            tapColumn<T, N>(ring, cy + N * i, n * C, rowAt(dst, dstStep, i) + j0 * C);
         }
-        const float* c = cy + N * i;
-        T* out = rowAt(dst, dstStep, i);
-        for (int s = 0; s < n; ++s) out[s] = storeSample<T>(columnSum<N>(c, [&](int k) { return ring[k][s]; }));
+        j0 = j1;
     }
 }
 

@@ -241,32 +241,46 @@ template <class T>
     return ::testing::AssertionSuccess();
 }
 
-// Every sample within rounding of the model, and the clamped run equal bit for bit to a run
-// whose sides all lie in memory over a replicated ring.
+// One plan against the model, and the clamped run equal bit for bit to a run whose sides all lie
+// in memory over a replicated ring.
+template <class T> void modelCase(Rng& rng, const Method& m, int ch, bool wide, PxliSize src, PxliSize dst)
+{
+    SCOPED_TRACE(::testing::Message() << pxltest::token<T>() << " C" << ch << " " << describe(m) << (wide ? " _L" : "") << " from "
+                                      << src.width << "x" << src.height << " to " << dst.width << "x" << dst.height);
+    Plan<T> plan(m, wide, src, dst);
+    ASSERT_TRUE(plan.ok);
+    GuardedImage<T> pad = sourceWithRing<T>(rng, src, ch);
+    GuardedImage<T> got(dst.width, dst.height, ch), inMemory(dst.width, dst.height, ch);
+    const pxltest::Watch keep({plan.rec.get(), &pad});
+    ASSERT_EQ(runWhole<T>(plan, pad, got, pxlBorderReplicate), pxlStatusOk);
+    EXPECT_TRUE(keep.unchanged()) << "the record or the source was written";
+    EXPECT_TRUE(got.guardsIntact());
+    const Axis ax = axisOf(m, src.width, dst.width), ay = axisOf(m, src.height, dst.height);
+    EXPECT_TRUE(nearModel(got, pad, src, ax, ay));
+    replicateRing(pad);
+    ASSERT_EQ(runWhole<T>(plan, pad, inMemory, pxlBorderMemAll), pxlStatusOk);
+    EXPECT_TRUE(pxltest::regionsEqual(inMemory, got)) << "all sides in memory against clamped taps";
+}
+
 template <class T> void modelCases(uint64_t seed, int count)
 {
     Rng rng(seed);
     for (const int ch : {1, 3, 4})
         for (int n = 0; n < count; ++n) {
             const Method m = randomMethod(rng);
-            const PxliSize src = randomSource(rng, m), dst = randomDestination(rng, src);
-            const bool wide = rng.chance(0.5);
-            SCOPED_TRACE(::testing::Message() << pxltest::token<T>() << " C" << ch << " " << describe(m) << (wide ? " _L" : "") << " from "
-                                              << src.width << "x" << src.height << " to " << dst.width << "x" << dst.height);
-            Plan<T> plan(m, wide, src, dst);
-            ASSERT_TRUE(plan.ok);
-            GuardedImage<T> pad = sourceWithRing<T>(rng, src, ch);
-            GuardedImage<T> got(dst.width, dst.height, ch), inMemory(dst.width, dst.height, ch);
-            const pxltest::Watch keep({plan.rec.get(), &pad});
-            ASSERT_EQ(runWhole<T>(plan, pad, got, pxlBorderReplicate), pxlStatusOk);
-            EXPECT_TRUE(keep.unchanged()) << "the record or the source was written";
-            EXPECT_TRUE(got.guardsIntact());
-            const Axis ax = axisOf(m, src.width, dst.width), ay = axisOf(m, src.height, dst.height);
-            EXPECT_TRUE(nearModel(got, pad, src, ax, ay));
-            replicateRing(pad);
-            ASSERT_EQ(runWhole<T>(plan, pad, inMemory, pxlBorderMemAll), pxlStatusOk);
-            EXPECT_TRUE(pxltest::regionsEqual(inMemory, got)) << "all sides in memory against clamped taps";
+            const PxliSize src = randomSource(rng, m);
+            modelCase<T>(rng, m, ch, rng.chance(0.5), src, randomDestination(rng, src));
         }
+}
+
+// Rows long enough to be taken in several bands: enlarged, reduced by factors that cut the bands
+// short, and reduced so far that the samples are read where they lie.
+template <class T> void wideCases(uint64_t seed)
+{
+    Rng rng(seed);
+    const PxliSize sizes[][2] = {{{700, 6}, {1500, 7}}, {{3001, 6}, {601, 4}}, {{5000, 6}, {19, 3}}};
+    for (const int ch : {1, 3, 4})
+        for (const auto& s : sizes) modelCase<T>(rng, randomMethod(rng), ch, false, s[0], s[1]);
 }
 
 TEST(ResizeTaps, EveryTypeAndLayoutAgainstTheModel)
@@ -275,6 +289,13 @@ TEST(ResizeTaps, EveryTypeAndLayoutAgainstTheModel)
     modelCases<Pxl16u>(22, 6);
     modelCases<Pxl16s>(23, 6);
     modelCases<Pxl32f>(24, 8);
+}
+
+TEST(ResizeTaps, WideRowsAgainstTheModel)
+{
+    wideCases<Pxl8u>(25);
+    wideCases<Pxl16s>(26);
+    wideCases<Pxl32f>(27);
 }
 
 // A grid of tiles, each with its own work buffer, its source from GetSrcOffset and the memory
