@@ -55,13 +55,18 @@ inline double ratioOf(const ResizeAxis& a) { return static_cast<double>(a.srcRed
 
 // A sample from an interpolated value: integers rounded to nearest with ties to even (adding and
 // taking away 1.5 * 2^23 leaves the integer part, for every value these types reach), then
-// saturated; floating types as they are.
-template <class T, class F> inline T storeSample(F v)
+// saturated; floating types as they are. Finite: the value is known to be finite and well inside
+// the range of int32 (as every linear blend of samples is), which lets the limits be integer.
+template <class T, bool Finite = true, class F> inline T storeSample(F v)
 {
     if constexpr (std::is_floating_point_v<T>) {
         return static_cast<T>(v);
+    } else if constexpr (Finite) {
+        const int32_t i = static_cast<int32_t>((v + F(0x1.8p23f)) - F(0x1.8p23f));
+        return static_cast<T>(std::clamp<int32_t>(i, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
     } else {
-        // Limited while still floating, where a NaN (from NaN taps) becomes the least sample.
+        // Limited while still floating, so that any value converts: an infinity takes the limit
+        // on its side and a NaN (from taps made of a NaN parameter) the least sample.
         constexpr F lo = static_cast<F>(std::numeric_limits<T>::min()), hi = static_cast<F>(std::numeric_limits<T>::max());
         F r = (v + F(0x1.8p23f)) - F(0x1.8p23f);
         r = r > lo ? r : lo;
@@ -334,7 +339,7 @@ template <class T, int N> void tapColumn(float* const* ring, const float* taps, 
     const float* r[N];
     float c[N];
     for (int k = 0; k < N; ++k) r[k] = ring[k], c[k] = taps[k];
-    for (int s = 0; s < n; ++s) out[s] = storeSample<T>(columnSum<N>(c, [&](int k) { return r[k][s]; }));
+    for (int s = 0; s < n; ++s) out[s] = storeSample<T, false>(columnSum<N>(c, [&](int k) { return r[k][s]; }));
 }
 
 // The interior of a tile: a ring of N interpolated rows, ring[k] holding source row
@@ -420,7 +425,7 @@ void tapsBorder(const T* src, int srcStep, T* dst, int dstStep, int w, int h, co
             float sums[N];
             for (int k = 0; k < N; ++k)
                 sums[k] = rowSum<N>(cx + N * j, [&](int q) { return static_cast<float>(rows[k][columns[q] + c]); });
-            out[c] = storeSample<T>(columnSum<N>(cy + N * i, [&](int k) { return sums[k]; }));
+            out[c] = storeSample<T, false>(columnSum<N>(cy + N * i, [&](int k) { return sums[k]; }));
         }
     };
     for (int i = 0; i < s.top; ++i)

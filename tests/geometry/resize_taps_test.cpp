@@ -371,6 +371,19 @@ TEST(ResizeTaps, ExactCases)
     EXPECT_EQ(got.at(3, 0, 0), 40);   // 240 / 6
     EXPECT_EQ(got.at(4, 0, 1), 200);  // 240 * 5 / 6
 
+    // A NaN parameter makes NaN taps: floats come out NaN, integers the least sample.
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    Plan<Pxl8u> bad({false, nan, 0.5f, 2}, false, s, {5, 4});
+    Plan<Pxl32f> fbad({false, nan, 0.5f, 2}, false, s, {5, 4});
+    GuardedImage<Pxl8u> small(5, 4, 3);
+    GuardedImage<Pxl32f> fsmall(5, 4, 3), fsrc = sourceWithRing<Pxl32f>(rng, s, 3);
+    pad.fill(77);
+    ASSERT_EQ(runWhole<Pxl8u>(bad, pad, small, pxlBorderReplicate), pxlStatusOk);
+    ASSERT_EQ(runWhole<Pxl32f>(fbad, fsrc, fsmall, pxlBorderReplicate), pxlStatusOk);
+    EXPECT_TRUE(pxltest::matchesEach(small, [](int, int, int) { return Pxl8u{0}; }));
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 5; ++x) EXPECT_TRUE(std::isnan(fsmall.at(x, y, 1))) << x << ", " << y;
+
     // Lanczos overshoots a step; integers are limited, floats are not.
     GuardedImage<Pxl32f> fpad(14 + 2 * kRing, 6 + 2 * kRing), fgot(28, 6);
     GuardedImage<Pxl8u> bpad(14 + 2 * kRing, 6 + 2 * kRing), bgot(28, 6);
