@@ -14,6 +14,26 @@ namespace {
 using pxlbench::H;
 using pxlbench::W;
 
+// OpenCV's resize of the W x H 8u image of `channels` to dw x dh with `interpolation`.
+enum CvMethod { kCvNearest, kCvLinear, kCvCubic, kCvLanczos };
+void addPeer(const std::string& name, int channels, int dw, int dh, CvMethod method)
+{
+#ifdef PXL_BENCH_OPENCV
+    pxlbench::add(name, "peer", [=](benchmark::State& s) {
+        static const int codes[] = {cv::INTER_NEAREST, cv::INTER_LINEAR, cv::INTER_CUBIC, cv::INTER_LANCZOS4};
+        pxlbench::Image a(W, H, channels), d(dw, dh, channels);
+        cv::Mat ma = a.mat(channels == 1 ? pxlbench::k8uC1 : pxlbench::k8uC3);
+        cv::Mat md(dh, dw, CV_8UC(channels), d.data, static_cast<std::size_t>(d.step));
+        for (auto _ : s) {
+            cv::resize(ma, md, cv::Size(dw, dh), 0, 0, codes[method]);
+            benchmark::ClobberMemory();
+        }
+    });
+#else
+    (void)name, (void)channels, (void)dw, (void)dh, (void)method;
+#endif
+}
+
 void resize(int interpolation, int num, int den)
 {
     const int dw = W * num / den, dh = H * num / den;
@@ -43,17 +63,7 @@ void resize(int interpolation, int num, int den)
     });
     const std::size_t out = static_cast<std::size_t>(dw) * dh * 3;
     pxlbench::addMemcpy(name, linear ? static_cast<std::size_t>(W) * H * 3 : out, out);
-#ifdef PXL_BENCH_OPENCV
-    pxlbench::add(name, "peer", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, 3), d(dw, dh, 3);
-        cv::Mat ma = a.mat(pxlbench::k8uC3);
-        cv::Mat md(dh, dw, CV_8UC3, d.data, static_cast<std::size_t>(d.step));
-        for (auto _ : s) {
-            cv::resize(ma, md, cv::Size(dw, dh), 0, 0, linear ? cv::INTER_LINEAR : cv::INTER_NEAREST);
-            benchmark::ClobberMemory();
-        }
-    });
-#endif
+    addPeer(name, 3, dw, dh, linear ? kCvLinear : kCvNearest);
 }
 
 // Cubic (B = 0, C = 0.5) and 3-lobe Lanczos, 8u C1, to two thirds of the size, against
@@ -84,17 +94,7 @@ void resizeTapped(bool lanczos)
             benchmark::ClobberMemory();
         }
     });
-#ifdef PXL_BENCH_OPENCV
-    pxlbench::add(name, "peer", [=](benchmark::State& s) {
-        pxlbench::Image a(W, H, 1), d(dw, dh, 1);
-        cv::Mat ma = a.mat(pxlbench::k8uC1);
-        cv::Mat md(dh, dw, CV_8UC1, d.data, static_cast<std::size_t>(d.step));
-        for (auto _ : s) {
-            cv::resize(ma, md, cv::Size(dw, dh), 0, 0, lanczos ? cv::INTER_LANCZOS4 : cv::INTER_CUBIC);
-            benchmark::ClobberMemory();
-        }
-    });
-#endif
+    addPeer(name, 1, dw, dh, lanczos ? kCvLanczos : kCvCubic);
 }
 
 void geometryBenchmarks()

@@ -1,5 +1,5 @@
 // Resize: the plan's sizes and Inits, what a plan tells about a tile, and the tile runs of the
-// nearest and linear methods.
+// nearest, linear, cubic and Lanczos methods.
 #include "geometry/geometry.hpp"
 #include "geometry/resize.hpp"
 #include "geometry/lanczos_tables.hpp"

@@ -1,5 +1,5 @@
 // The resize plan and the kernels that run it. A plan is a record in the caller's buffer with the
-// source position of every destination row and column (and their fractions) for the whole image;
+// source position of every destination row and column (and their fractions or taps) for the whole image;
 // a tile only rebases them to its own source origin, so that any partition of the destination
 // gives the bits of one call.
 #pragma once
