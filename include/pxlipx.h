@@ -20,5 +20,6 @@
 #include "pxlipx/filtering.h"
 #include "pxlipx/features.h"
 #include "pxlipx/geometry.h"
+#include "pxlipx/transforms.h"
 
 #endif

@@ -8,3 +8,4 @@
 #include "filtering/filtering.hpp"
 #include "features/features.hpp"
 #include "geometry/geometry.hpp"
+#include "transforms/transforms.hpp"

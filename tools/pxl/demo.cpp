@@ -526,6 +526,25 @@ void resizeDemo(Context& ctx)
     }
 }
 
+// The 8x8 DCT as a block codec uses it: each block of the gray image level-shifted and
+// transformed, every coefficient with u + v above 3 dropped (keeping 10 of 64), and the inverse
+// shifted back and limited to 0..255.
+void dctDemo(Context& ctx)
+{
+    const Image& src = ctx.gray;
+    Image coarse(src.width, src.height, 1);
+    makeSaveTime(ctx, "dct_low_frequencies", coarse, "pxliDCT8x8FwdLS + InvLSClip (per frame)", [&] {
+        Pxl16s block[64];
+        for (int by = 0; by + 8 <= src.height; by += 8)
+            for (int bx = 0; bx + 8 <= src.width; bx += 8) {
+                pxliDCT8x8FwdLS_8u16s_C1R(src.data + by * src.step + bx, src.step, block, -128);
+                for (int k = 0; k < 64; ++k)
+                    if (k / 8 + k % 8 > 3) block[k] = 0;
+                pxliDCT8x8InvLSClip_16s8u_C1R(block, coarse.data + by * coarse.step + bx, coarse.step, 128, 0, 255);
+            }
+    });
+}
+
 }  // namespace
 
 const std::vector<Entry>& entries()
@@ -544,6 +563,7 @@ const std::vector<Entry>& entries()
         {"median", medianDemo},
         {"gradients", gradientDemo},
         {"resize", resizeDemo},
+        {"dct", dctDemo},
     };
     return all;
 }
