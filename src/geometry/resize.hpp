@@ -358,7 +358,7 @@ void tapsInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h, 
     float* ring[N];
     for (int j0 = 0; j0 < w;) {
         const int first = x[j0] + kFirst * C;  // the band's source samples [first, last)
-        int j1 = static_cast<int>(std::upper_bound(x + j0, std::min(x + j0 + kBand, x + w), first + kSpanLen - (kFirst + N) * C) - x);
+        int j1 = static_cast<int>(std::upper_bound(x + j0, x + std::min(j0 + kBand, w), first + kSpanLen - (kFirst + N) * C) - x);
         const bool spanned = j1 - j0 >= std::min(kFewest, w - j0);
         if (!spanned) j1 = std::min(j0 + kBand, w);
         const int n = j1 - j0, last = x[j1 - 1] + (kFirst + N) * C, base = spanned ? first : 0;
