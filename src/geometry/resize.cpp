@@ -533,8 +533,7 @@ PxlStatus resizeLinear(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliPoi
     const F* fx = tableOf<F>(*r, std::is_same_v<F, double> ? r->axisX.coefTable64 : r->axisX.coefTable) + dstOffset.x;
     const F* fy = tableOf<F>(*r, std::is_same_v<F, double> ? r->axisY.coefTable64 : r->axisY.coefTable) + dstOffset.y;
     const int64_t ringBytes = align32(static_cast<int64_t>(sizeof(F)) * C * t.w);
-    F* ringA = reinterpret_cast<F*>(t.rest);
-    F* ringB = reinterpret_cast<F*>(t.rest + ringBytes);
+    F* const ring[2] = {reinterpret_cast<F*>(t.rest), reinterpret_cast<F*>(t.rest + ringBytes)};
 
     const Strips s = stripsOf(*r, t, dstOffset, border);
     if (s.top || s.bottom || s.left || s.right) linearBorder<T, C>(pSrc, srcStep, pDst, dstStep, t.w, t.h, t.y, t.x, fy, fx, s);
@@ -549,7 +548,7 @@ PxlStatus resizeLinear(const T* pSrc, int srcStep, T* pDst, int dstStep, PxliPoi
                 return overrun(*r, dstSize);
             }
         }
-        linearInterior<T, C>(pSrc, srcStep, to, dstStep, w, h, y, x, fy + s.top, fx + s.left, ringA, ringB);
+        linearInterior<T, C>(pSrc, srcStep, to, dstStep, w, h, y, x, fy + s.top, fx + s.left, ring);
     }
     return overrun(*r, dstSize);
 }

@@ -133,60 +133,87 @@ template <class T, class F> void linearColumn(const F* __restrict lo, const F* _
     for (int i = 0; i < n; ++i) out[i] = storeSample<T>((hi[i] - lo[i]) * wy + lo[i]);
 }
 
-// The interior of a tile: every tap inside the source memory. Each source row is interpolated
-// along the row once, into the two-row ring, and reused by every destination row that needs it.
-// Columns go in bands: a band's source samples are first converted to float (or copied) into a
-// padded span on the stack, where pixels are interpolated a vector at a time; the band ends where
-// the span would overflow. A reduction by so large a factor that a band would hold only a few
-// pixels reads the samples where they lie instead, one by one. Doubles go sample by sample.
-template <class T, int C, class F>
-void linearInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h, const int32_t* y, const int32_t* x, const F* fy,
-                    const F* fx, F* ringA, F* ringB)
+// The frame of the interior kernels (every tap inside the source memory), for kernels of N taps
+// per axis, tap k reading the pixel k - (N / 2 - 1) from its position's index. Columns go in bands:
+// a band's source samples are first converted to float (or copied) into a padded span on the
+// stack, which the row pass may read eight samples past the band's last tap, and the band ends
+// where the span would overflow; a reduction by so large a factor that a band would hold only a
+// few pixels reads the samples where they lie, and so do doubles. Each source row a band needs is
+// interpolated along the row once, into a ring of N rows (ring[k] holding source row
+// y - (N / 2 - 1) + k for the current y), and reused by every destination row that needs it.
+//   band(j0, n): called as each band of n pixels from j0 starts;
+//   rowPass(row, padded, bandX, j0, n, out): one row through the row taps; bandX[j] is the band's
+//     pixel j's first tap in samples from `row`, which is the span when `padded`;
+//   column(i, j0, n, ring): destination row i of the band from the ring.
+template <class T, int C, class F, int N, int Band, class BandStart, class RowPass, class Column>
+void bandedInterior(const T* src, int srcStep, int w, int h, const int32_t* y, const int32_t* x, F* const* ringRows, BandStart band,
+                    RowPass rowPass, Column column)
 {
     constexpr bool kSpan = std::is_same_v<F, float>;
-    constexpr int kBand = 1536 / C, kSpanLen = kSpan ? 4096 : 1, kPad = 4, kFewest = 16;
-    int32_t bandX[kBand];
+    constexpr int kFirst = 1 - N / 2, kSpanLen = kSpan ? 4096 : 1, kPad = 8, kFewest = 16;
+    int32_t bandX[Band];
     float span[kSpanLen + kPad] = {};
+    F* ring[N];
     for (int j0 = 0; j0 < w;) {
-        // The band [j0, j1): as many pixels as the span holds, at most kBand.
-        int j1 = std::min(j0 + kBand, w);
-        const int first = x[j0];
-        if constexpr (kSpan) j1 = static_cast<int>(std::upper_bound(x + j0, x + j1, first + kSpanLen - 2 * C) - x);
+        // The band [j0, j1): as many pixels as the span holds, at most Band.
+        int j1 = std::min(j0 + Band, w);
+        const int first = x[j0] + kFirst * C;
+        if constexpr (kSpan) j1 = static_cast<int>(std::upper_bound(x + j0, x + j1, first + kSpanLen - (kFirst + N) * C) - x);
         const bool spanned = kSpan && j1 - j0 >= std::min(kFewest, w - j0);
-        if (!spanned) j1 = std::min(j0 + kBand, w);
-        const int n = j1 - j0, last = x[j1 - 1] + 2 * C;  // the band's source samples [first, last)
+        if (!spanned) j1 = std::min(j0 + Band, w);
+        const int n = j1 - j0, last = x[j1 - 1] + (kFirst + N) * C;  // the band's source samples [first, last)
         const int base = spanned ? first : 0;
-        for (int k = 0; k < n; ++k) bandX[k] = x[j0 + k] - base;
-        const F* bandF = fx + j0;
+        for (int k = 0; k < n; ++k) bandX[k] = x[j0 + k] + kFirst * C - base;
+        band(j0, n);
         auto interpolate = [&](int row, F* out) {
             const T* r = rowAt(src, srcStep, row);
             if constexpr (kSpan) {
                 if (spanned) {
                     for (int k = 0; k < last - first; ++k) span[k] = static_cast<float>(r[first + k]);
-                    const int done = linearRowPadded<C>(span, bandX, bandF, n, out);
-                    linearRow<float, C>(span, bandX + done, bandF + done, n - done, out + done * C);
-                    return;
+                    return rowPass(static_cast<const float*>(span), true, bandX, j0, n, out);
                 }
             }
-            linearRow<T, C>(r, bandX, bandF, n, out);
+            rowPass(r, false, bandX, j0, n, out);
         };
-        int cur = y[0] - 1;
-        F* lo = ringA;
-        F* hi = ringB;
-        interpolate(y[0], hi);
+        std::copy(ringRows, ringRows + N, ring);
+        auto fill = [&](int yi, int from) {
+            for (int k = from; k < N; ++k) interpolate(yi + kFirst + k, ring[k]);
+        };
+        int cur = y[0];
+        fill(cur, 0);
         for (int i = 0; i < h; ++i) {
-            const int yi = y[i];
-            if (cur < yi) {
-                // The newest row (hi) becomes lo when the next row follows it; otherwise both are new.
-                std::swap(lo, hi);
-                interpolate(yi + 1, hi);
-                if (cur + 1 < yi) interpolate(yi, lo);
-                cur = yi;
+            if (y[i] > cur) {
+                // The rows still needed move to the front; only the new ones are interpolated.
+                const int d = y[i] - cur;
+                cur = y[i];
+                if (d >= N) {
+                    fill(cur, 0);
+                } else {
+                    std::rotate(ring, ring + d, ring + N);
+                    fill(cur, N - d);
+                }
             }
-            linearColumn(lo, hi, fy[i], n * C, rowAt(dst, dstStep, i) + j0 * C);
+            column(i, j0, n, ring);
         }
         j0 = j1;
     }
+}
+
+// The linear interior: two taps along each axis, weighted by the fractions.
+template <class T, int C, class F>
+void linearInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h, const int32_t* y, const int32_t* x, const F* fy,
+                    const F* fx, F* const* ring)
+{
+    auto rowPass = [fx](const auto* row, bool padded, const int32_t* bandX, int j0, int n, F* out) {
+        using R = std::remove_cv_t<std::remove_pointer_t<decltype(row)>>;
+        const F* bandF = fx + j0;
+        int done = 0;
+        if constexpr (std::is_same_v<R, float> && std::is_same_v<F, float>)
+            if (padded) done = linearRowPadded<C>(row, bandX, bandF, n, out);
+        linearRow<R, C>(row, bandX + done, bandF + done, n - done, out + done * C);
+    };
+    auto column = [&](int i, int j0, int n, F* const* rows) { linearColumn(rows[0], rows[1], fy[i], n * C, rowAt(dst, dstStep, i) + j0 * C); };
+    bandedInterior<T, C, F, 2, 1536 / C>(src, srcStep, w, h, y, x, ring, [](int, int) {}, rowPass, column);
 }
 
 // Whether an interior runs at exactly half the source's size on both axes: every destination
@@ -342,59 +369,28 @@ template <class T, int N> void tapColumn(float* const* ring, const float* taps, 
     for (int s = 0; s < n; ++s) out[s] = storeSample<T, false>(columnSum<N>(c, [&](int k) { return r[k][s]; }));
 }
 
-// The interior of a tile: a ring of N interpolated rows, ring[k] holding source row
-// y - (N / 2 - 1) + k for the current y; each source row goes through the row pass once per band.
-// As in the linear kernel, a band's source samples are first converted (or copied) into a padded
-// span of floats on the stack, and the band ends where the span would overflow; a reduction by so
-// large a factor that a band would hold only a few pixels reads the samples where they lie.
+// The interior of N-tap kernels. One channel gives its row pass the band's taps transposed.
 template <class T, int C, int N>
 void tapsInterior(const T* src, int srcStep, T* dst, int dstStep, int w, int h, const int32_t* y, const int32_t* x, const float* cy,
-                  const float* cx, float* const* ringRows)
+                  const float* cx, float* const* ring)
 {
-    constexpr int kFirst = 1 - N / 2, kBand = C == 1 ? 1024 : 1536 / C, kSpanLen = 4096, kPad = 8, kFewest = 16;
-    int32_t bandX[kBand];
+    constexpr int kBand = C == 1 ? 1024 : 1536 / C;
     float bandT[C == 1 ? N * kBand : 1];
-    float span[kSpanLen + kPad] = {};
-    float* ring[N];
-    for (int j0 = 0; j0 < w;) {
-        const int first = x[j0] + kFirst * C;  // the band's source samples [first, last)
-        int j1 = static_cast<int>(std::upper_bound(x + j0, x + std::min(j0 + kBand, w), first + kSpanLen - (kFirst + N) * C) - x);
-        const bool spanned = j1 - j0 >= std::min(kFewest, w - j0);
-        if (!spanned) j1 = std::min(j0 + kBand, w);
-        const int n = j1 - j0, last = x[j1 - 1] + (kFirst + N) * C, base = spanned ? first : 0;
-        for (int k = 0; k < n; ++k) bandX[k] = x[j0 + k] + kFirst * C - base;
-        const float* bandC = cx + N * j0;
+    auto band = [&](int j0, int n) {
         if constexpr (C == 1)
             for (int j = 0; j < n; ++j)
-                for (int k = 0; k < N; ++k) bandT[k * n + j] = bandC[N * j + k];
-        auto interpolate = [&](int row, float* out) {
-            const T* r = rowAt(src, srcStep, row);
-            if (!spanned) return tapRow<T, C, N>(r, bandX, bandC, n, out);
-            for (int k = 0; k < last - first; ++k) span[k] = static_cast<float>(r[first + k]);
-            const int done = tapRowPadded<C, N>(span, bandX, bandC, bandT, n, n, out);
-            tapRow<float, C, N>(span, bandX + done, bandC + N * done, n - done, out + done * C);
-        };
-        std::copy(ringRows, ringRows + N, ring);
-        auto fill = [&](int row, int from) {
-            for (int k = from; k < N; ++k) interpolate(row + kFirst + k, ring[k]);
-        };
-        int cur = y[0];
-        fill(cur, 0);
-        for (int i = 0; i < h; ++i) {
-            if (y[i] > cur) {
-                const int d = y[i] - cur;
-                cur = y[i];
-                if (d >= N) {
-                    fill(cur, 0);
-                } else {
-                    std::rotate(ring, ring + d, ring + N);
-                    fill(cur, N - d);
-                }
-            }
-            tapColumn<T, N>(ring, cy + N * i, n * C, rowAt(dst, dstStep, i) + j0 * C);
-        }
-        j0 = j1;
-    }
+                for (int k = 0; k < N; ++k) bandT[k * n + j] = cx[N * (j0 + j) + k];
+    };
+    auto rowPass = [&](const auto* row, bool padded, const int32_t* bandX, int j0, int n, float* out) {
+        using R = std::remove_cv_t<std::remove_pointer_t<decltype(row)>>;
+        const float* bandC = cx + N * j0;
+        int done = 0;
+        if constexpr (std::is_same_v<R, float>)
+            if (padded) done = tapRowPadded<C, N>(row, bandX, bandC, bandT, n, n, out);
+        tapRow<R, C, N>(row, bandX + done, bandC + N * done, n - done, out + done * C);
+    };
+    auto column = [&](int i, int j0, int n, float* const* rows) { tapColumn<T, N>(rows, cy + N * i, n * C, rowAt(dst, dstStep, i) + j0 * C); };
+    bandedInterior<T, C, float, N, kBand>(src, srcStep, w, h, y, x, ring, band, rowPass, column);
 }
 
 // The strips of a tile whose taps reach past the image, for N-tap kernels: each pixel whole, its
